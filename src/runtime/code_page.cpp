@@ -1,0 +1,43 @@
+#include "runtime/code_page.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace runtime {
+namespace {
+
+// The characters of the codes 0x80 to 0x9F; all others have the code of their character.
+constexpr char16_t kUpperRow[] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                  0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                  0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                  0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+static_assert(std::size(kUpperRow) == 32);
+
+bool InUpperRow(unsigned code) { return code >= 0x80 && code <= 0x9F; }
+
+char16_t CharacterOf(char byte) {
+  const auto code = static_cast<unsigned char>(byte);
+  return InUpperRow(code) ? kUpperRow[code - 0x80] : code;
+}
+
+char ByteOf(char16_t character) {
+  if (character < 0x80 || (character > 0x9F && character <= 0xFF)) return static_cast<char>(character);
+  const auto found = std::find(std::begin(kUpperRow), std::end(kUpperRow), character);
+  return found == std::end(kUpperRow) ? '?' : static_cast<char>(0x80 + (found - std::begin(kUpperRow)));
+}
+
+}  // namespace
+
+std::u16string ToUtf16(std::string_view text) {
+  std::u16string wide(text.size(), u'\0');
+  std::ranges::transform(text, wide.begin(), CharacterOf);
+  return wide;
+}
+
+std::string FromUtf16(std::u16string_view text) {
+  std::string bytes(text.size(), '\0');
+  std::ranges::transform(text, bytes.begin(), ByteOf);
+  return bytes;
+}
+
+}  // namespace runtime

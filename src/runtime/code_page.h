@@ -1,0 +1,15 @@
+// The code page of the program's texts, Windows-1252, against the two-byte text of the system.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace runtime {
+
+// The five bytes without a character stand for the control characters of their code, in both directions.
+std::u16string ToUtf16(std::string_view text);
+
+// Characters that the code page lacks become "?".
+std::string FromUtf16(std::u16string_view text);
+
+}  // namespace runtime

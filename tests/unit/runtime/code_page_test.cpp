@@ -1,0 +1,23 @@
+#include "runtime/code_page.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(CodePage, TellsTheCharactersOfTheUpperRow) {
+  EXPECT_EQ(runtime::ToUtf16("Aü€\x9F"), u"A\u00FC\u20AC\u0178");
+  EXPECT_EQ(runtime::FromUtf16(u"A\u00FC\u20AC\u0178"), "Aü€\x9F");
+}
+
+TEST(CodePage, EveryByteComesBack) {
+  std::string all;
+  for (int i = 0; i < 256; ++i) all += static_cast<char>(i);
+  EXPECT_EQ(runtime::FromUtf16(runtime::ToUtf16(all)), all);
+}
+
+TEST(CodePage, CharacterThatItLacksBecomesAQuestionMark) {
+  EXPECT_EQ(runtime::FromUtf16(u"\u0141\u00F3d\u017A \u0080"), "?ód? ?");
+  EXPECT_EQ(runtime::FromUtf16(u"\U0001F600"), "??");
+}
+
+}  // namespace
