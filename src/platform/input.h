@@ -1,0 +1,97 @@
+// Synthetic input: mouse, keys, and the input queues that decide who gets them.
+//
+// Keys go to the window that has the focus in the thread of the foreground window. Each thread has a queue of input
+// with a focus of its own; two queues that are joined share both.
+#pragma once
+
+#include <cstdint>
+
+namespace platform {
+
+// Mouse.
+
+constexpr std::uint32_t MOUSEEVENTF_MOVE = 1;
+constexpr std::uint32_t MOUSEEVENTF_LEFTDOWN = 2;
+constexpr std::uint32_t MOUSEEVENTF_LEFTUP = 4;
+constexpr std::uint32_t MOUSEEVENTF_RIGHTDOWN = 8;
+constexpr std::uint32_t MOUSEEVENTF_RIGHTUP = 16;
+constexpr std::uint32_t MOUSEEVENTF_MIDDLEDOWN = 32;
+constexpr std::uint32_t MOUSEEVENTF_MIDDLEUP = 64;
+constexpr std::uint32_t MOUSEEVENTF_ABSOLUTE = 32768;
+
+// Screen pixels.
+bool SetCursorPos(std::int32_t X, std::int32_t Y);
+
+// With MOVE and ABSOLUTE dx and dy count from 0 to 65,535 over the width and the height of the screen. Flags that the
+// system does not know are ignored.
+void mouse_event(std::uint32_t dwFlags, std::int32_t dx, std::int32_t dy, std::uint32_t dwData,
+                 std::uint32_t dwExtraInfo);
+
+// Keys.
+
+constexpr std::uint8_t VK_CANCEL = 3;
+constexpr std::uint8_t VK_BACK = 8;
+constexpr std::uint8_t VK_TAB = 9;
+constexpr std::uint8_t VK_RETURN = 13;
+constexpr std::uint8_t VK_SHIFT = 16;
+constexpr std::uint8_t VK_CONTROL = 17;
+constexpr std::uint8_t VK_MENU = 18;  // the Alt key
+constexpr std::uint8_t VK_CAPITAL = 20;
+constexpr std::uint8_t VK_ESCAPE = 27;
+constexpr std::uint8_t VK_PRIOR = 33;
+constexpr std::uint8_t VK_NEXT = 34;
+constexpr std::uint8_t VK_END = 35;
+constexpr std::uint8_t VK_HOME = 36;
+constexpr std::uint8_t VK_LEFT = 37;
+constexpr std::uint8_t VK_UP = 38;
+constexpr std::uint8_t VK_RIGHT = 39;
+constexpr std::uint8_t VK_DOWN = 40;
+constexpr std::uint8_t VK_SNAPSHOT = 44;
+constexpr std::uint8_t VK_INSERT = 45;
+constexpr std::uint8_t VK_DELETE = 46;
+constexpr std::uint8_t VK_HELP = 47;
+constexpr std::uint8_t VK_F1 = 112;
+constexpr std::uint8_t VK_NUMLOCK = 144;
+constexpr std::uint8_t VK_SCROLL = 145;
+// The right ones of the keys that stand on both sides.
+constexpr std::uint8_t VK_RSHIFT = 161;
+constexpr std::uint8_t VK_RCONTROL = 163;
+constexpr std::uint8_t VK_RMENU = 165;
+
+constexpr std::uint32_t KEYEVENTF_EXTENDEDKEY = 1;
+constexpr std::uint32_t KEYEVENTF_KEYUP = 2;
+
+// One key goes down or up. A scan code of 0 is filled in by the keyboard layout.
+void keybd_event(std::uint8_t bVk, std::uint8_t bScan, std::uint32_t dwFlags, std::uint32_t dwExtraInfo);
+
+// The key that types a character of the code page on the keyboard layout of the foreground window, with 256 for Shift,
+// 512 for Ctrl and 1024 for Alt added; -1 when no key does, or only a dead one, which types with the key behind it.
+std::int16_t VkKeyScanA(char ch);
+
+// Types a character on any keyboard layout, without a key of its own.
+void TypeCharacter(char ch);
+
+// Negative while the key is down.
+std::int16_t GetAsyncKeyState(std::int32_t vKey);
+// An odd number while the key (such as VK_CAPITAL) is switched on.
+std::int16_t GetKeyState(std::int32_t nVirtKey);
+
+// Waits until the keys sent so far have been processed, at most 5 seconds (a program that hangs never takes them). The
+// answer is sure only while the queue of the foreground window is joined with that of this thread; otherwise it waits
+// until the foreground window answers a message. False, at once, when the foreground window is the program's own: its
+// keys are processed by the next pump.
+bool WaitForKeys();
+
+// Queues and focus.
+
+// Joins the input queue of the first thread to that of the second, or parts them. Parting keeps the foreground window.
+bool AttachThreadInput(std::uint32_t idAttach, std::uint32_t idAttachTo, bool fAttach);
+
+// Moves the focus within the queue of this thread, joined ones included, and activates the window that holds it. Yields
+// the window that had it before; 0 for none, and when the window belongs to another queue.
+std::int32_t SetFocus(std::int32_t hWnd);
+
+// Keeps the user's own keys and clicks away (true) or lets them through; false when the system refuses.
+bool BlockInput(bool fBlockIt);
+
+}  // namespace platform

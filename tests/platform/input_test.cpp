@@ -1,0 +1,156 @@
+#include "platform/input.h"
+
+#include "fixture.h"
+#include "platform/messages.h"
+#include "platform/window_lookup.h"
+#include "platform/window_state.h"
+
+namespace {
+
+using contract::AddForeignWindow;
+
+std::uint32_t ThreadOf(std::int32_t hWnd) {
+  std::uint32_t process = 0;
+  return platform::GetWindowThreadProcessId(hWnd, process);
+}
+
+std::string TextOf(std::int32_t hWnd) {
+  platform::TextBuffer buffer(100);
+  const auto count = platform::SendMessageA(hWnd, platform::WM_GETTEXT, 100, buffer);
+  return buffer.bytes.substr(0, static_cast<std::size_t>(count));
+}
+
+void Stroke(std::uint8_t key) {
+  platform::keybd_event(key, 0, 0, 0);
+  platform::keybd_event(key, 0, platform::KEYEVENTF_KEYUP, 0);
+}
+
+// A field in a window of another process, and the two threads.
+class Keys : public contract::Test {
+ protected:
+  void SetUp() override {
+    Test::SetUp();
+    own_ = contract::AddOwnWindow("eigenes");
+    window_ = contract::AddSettledWindow("fremdes");
+    field_ = AddForeignWindow({.className = "Edit", .parent = window_, .id = 7, .width = 100, .height = 24});
+  }
+  void TearDown() override {
+    platform::AttachThreadInput(ThreadOf(window_), ThreadOf(own_), false);
+    Test::TearDown();
+  }
+
+  bool Join(bool join = true) const { return platform::AttachThreadInput(ThreadOf(window_), ThreadOf(own_), join); }
+
+  std::int32_t own_ = 0, window_ = 0, field_ = 0;
+};
+
+TEST_F(Keys, GoToTheFieldThatGetsTheFocusThroughJoinedQueues) {
+  ASSERT_TRUE(Join());
+  platform::SetForegroundWindow(window_);
+  platform::SetFocus(field_);
+  Stroke('A');
+  platform::keybd_event(platform::VK_SHIFT, 0, 0, 0);
+  Stroke('B');
+  platform::keybd_event(platform::VK_SHIFT, 0, platform::KEYEVENTF_KEYUP, 0);
+  EXPECT_TRUE(platform::WaitForKeys());
+  EXPECT_EQ(TextOf(field_), "aB");
+}
+
+TEST_F(Keys, CharactersWithoutAKeyOnTheLayoutAreTyped) {
+  ASSERT_TRUE(Join());
+  platform::SetForegroundWindow(window_);
+  platform::SetFocus(field_);
+  for (const char character : std::string("äÖß€éz")) platform::TypeCharacter(character);
+  EXPECT_TRUE(platform::WaitForKeys());
+  EXPECT_EQ(TextOf(field_), "äÖß€éz");
+}
+
+TEST_F(Keys, AreWaitedForUntilTheyAreWorkedAt) {
+  ASSERT_TRUE(Join());
+  platform::SetForegroundWindow(window_);
+  platform::SetFocus(window_);
+  Stroke(contract::kSlowKey);
+  EXPECT_TRUE(platform::WaitForKeys());
+  std::string text;
+  platform::GetWindowTextA(window_, text, 100);
+  EXPECT_EQ(text, "langsam");
+}
+
+TEST_F(Keys, GoToTheForegroundWindowWithoutJoinedQueues) {
+  platform::SetForegroundWindow(window_);
+  contract::RunFor(200);
+  Stroke(contract::kSlowKey);
+  EXPECT_TRUE(platform::WaitForKeys());
+  std::string text;
+  platform::GetWindowTextA(window_, text, 100);
+  EXPECT_EQ(text, "langsam");
+}
+
+TEST_F(Keys, ForTheProgramItselfAreNotWaitedFor) {
+  platform::SetForegroundWindow(own_);
+  contract::RunFor(200);
+  EXPECT_FALSE(platform::WaitForKeys());
+}
+
+TEST_F(Keys, FocusStaysWithinItsQueue) {
+  EXPECT_EQ(platform::SetFocus(field_), 0);
+  ASSERT_TRUE(Join());
+  platform::SetForegroundWindow(window_);
+  EXPECT_NE(platform::SetFocus(field_), 0);
+  EXPECT_EQ(platform::SetFocus(window_), field_);
+}
+
+TEST_F(Keys, QueuesAreJoinedAndPartedOnce) {
+  EXPECT_FALSE(Join(false));
+  EXPECT_TRUE(Join());
+  EXPECT_TRUE(Join(false));
+  EXPECT_FALSE(Join(false));
+}
+
+TEST_F(Keys, QueuesOfOneThreadOrNoneAreNotJoined) {
+  EXPECT_FALSE(platform::AttachThreadInput(ThreadOf(own_), ThreadOf(own_), true));
+  EXPECT_FALSE(platform::AttachThreadInput(0, ThreadOf(own_), true));
+  EXPECT_FALSE(platform::AttachThreadInput(ThreadOf(own_), 0, true));
+}
+
+TEST_F(Keys, PartingKeepsTheForeground) {
+  ASSERT_TRUE(Join());
+  platform::SetForegroundWindow(window_);
+  platform::SetFocus(field_);
+  EXPECT_TRUE(Join(false));
+  EXPECT_EQ(platform::GetForegroundWindow(), window_);
+}
+
+TEST_F(Keys, FocusIsKeptWhenTheQueuesAreParted) {
+  ASSERT_TRUE(Join());
+  platform::SetForegroundWindow(window_);
+  platform::SetFocus(field_);
+  EXPECT_TRUE(Join(false));
+  contract::RunFor(200);
+  Stroke('C');
+  platform::WaitForKeys();
+  contract::RunFor(100);
+  EXPECT_EQ(TextOf(field_), "c");
+}
+
+TEST_F(Keys, LettersHaveKeysOfTheirOwn) {
+  EXPECT_EQ(platform::VkKeyScanA('a'), 'A');
+  EXPECT_EQ(platform::VkKeyScanA('A'), 'A' + 256);
+  EXPECT_EQ(platform::VkKeyScanA(' '), ' ');
+}
+
+TEST_F(Keys, HeldOnesAreSeen) {
+  EXPECT_GE(platform::GetAsyncKeyState(platform::VK_CONTROL), 0);
+  platform::keybd_event(platform::VK_CONTROL, 0, 0, 0);
+  EXPECT_LT(platform::GetAsyncKeyState(platform::VK_CONTROL), 0);
+  platform::keybd_event(platform::VK_CONTROL, 0, platform::KEYEVENTF_KEYUP, 0);
+  EXPECT_GE(platform::GetAsyncKeyState(platform::VK_CONTROL), 0);
+}
+
+TEST_F(Keys, NoFocusForADeadWindow) {
+  contract::DestroyForeignWindow(field_);
+  ASSERT_TRUE(Join());
+  EXPECT_EQ(platform::SetFocus(field_), 0);
+}
+
+}  // namespace

@@ -1,0 +1,106 @@
+#include "platform/system.h"
+
+#include "fixture.h"
+#include "platform/files.h"
+#include "platform/shell.h"
+#include "platform/window_state.h"
+
+namespace {
+
+class System : public contract::Test {
+ protected:
+  static int SecondOfDay() {
+    const auto now = platform::Now();
+    return (now.hour * 60 + now.minute) * 60 + now.second;
+  }
+  // Also over midnight.
+  static int SecondsSince(int start) { return (SecondOfDay() - start + 86400) % 86400; }
+};
+
+TEST_F(System, VersionIsGivenIntoARecordOfTheFirstSizeOnly) {
+  platform::OSVERSIONINFO version;
+  ASSERT_TRUE(platform::GetVersionExA(version));
+  EXPECT_EQ(version.dwPlatformId, platform::VER_PLATFORM_WIN32_NT);
+  EXPECT_GE(version.dwMajorVersion, 5u);
+  EXPECT_EQ(version.dwOSVersionInfoSize, 148u);
+  version.dwOSVersionInfoSize = 100;
+  EXPECT_FALSE(platform::GetVersionExA(version));
+}
+
+TEST_F(System, SleepLetsTheClockGoOn) {
+  const int start = SecondOfDay();
+  platform::Sleep(2100);
+  EXPECT_GE(SecondsSince(start), 2);
+  EXPECT_LE(SecondsSince(start), 4);
+}
+
+TEST_F(System, NegativeSleepDoesNotWait) {
+  const int start = SecondOfDay();
+  platform::Sleep(-1);
+  platform::Sleep(-5000);
+  EXPECT_LE(SecondsSince(start), 1);
+}
+
+TEST_F(System, NowIsADateOfOurDays) {
+  const auto now = platform::Now();
+  EXPECT_GE(now.year, 2006);
+  EXPECT_LT(now.year, 2200);
+  EXPECT_GE(now.month, 1);
+  EXPECT_LE(now.month, 12);
+  EXPECT_GE(now.day, 1);
+  EXPECT_LE(now.day, 31);
+}
+
+TEST_F(System, FolderOfTheProgramExistsAndHasNoBackslashAtItsEnd) {
+  const std::string folder = platform::ApplicationPath();
+  EXPECT_TRUE(platform::FolderExists(folder));
+  EXPECT_NE(folder.back(), '\\');
+}
+
+TEST_F(System, TwipsOfAPixelAtTheUsualResolution) { EXPECT_EQ(platform::TwipsPerPixelX(), 15.0); }
+
+TEST_F(System, MissingProgramDoesNotStart) {
+  EXPECT_EQ(platform::StartProgram(contract::MissingProgram(), platform::SW_SHOWNORMAL), 0u);
+}
+
+class HotKey : public contract::Test {
+ protected:
+  static constexpr std::uint32_t kKey = 121;  // F10
+};
+
+TEST_F(HotKey, CombinationBelongsToOneWindowUntilItIsGivenBack) {
+  const auto first = contract::AddOwnWindow("erstes");
+  const auto second = contract::AddOwnWindow("zweites");
+  EXPECT_TRUE(platform::RegisterHotKey(first, 1, platform::MOD_ALT, kKey));
+  EXPECT_FALSE(platform::RegisterHotKey(second, 1, platform::MOD_ALT, kKey));
+  EXPECT_TRUE(platform::UnregisterHotKey(first, 1));
+  EXPECT_FALSE(platform::UnregisterHotKey(first, 1));
+  EXPECT_TRUE(platform::RegisterHotKey(second, 1, platform::MOD_ALT, kKey));
+  EXPECT_TRUE(platform::UnregisterHotKey(second, 1));
+}
+
+TEST_F(HotKey, NotForADeadWindow) {
+  const auto window = contract::AddOwnWindow("Fenster");
+  contract::DestroyOwnWindow(window);
+  EXPECT_FALSE(platform::RegisterHotKey(window, 1, platform::MOD_ALT, kKey));
+}
+
+class NotificationIcon : public contract::Test {};
+
+TEST_F(NotificationIcon, IsAddedOnceChangedAndRemovedOnce) {
+  platform::NOTIFYICONDATA record;
+  record.hWnd = contract::AddOwnWindow("Fenster");
+  record.uID = 1;
+  record.uFlags = platform::NIF_MESSAGE | platform::NIF_TIP;
+  record.uCallbackMessage = 512;
+  EXPECT_FALSE(platform::Shell_NotifyIconA(platform::NIM_MODIFY, record));
+  EXPECT_TRUE(platform::Shell_NotifyIconA(platform::NIM_ADD, record));
+  EXPECT_FALSE(platform::Shell_NotifyIconA(platform::NIM_ADD, record));
+  EXPECT_TRUE(platform::Shell_NotifyIconA(platform::NIM_MODIFY, record));
+  EXPECT_TRUE(platform::Shell_NotifyIconA(platform::NIM_DELETE, record));
+  EXPECT_FALSE(platform::Shell_NotifyIconA(platform::NIM_DELETE, record));
+}
+
+TEST_F(NotificationIcon, UnknownIconHasNoHandle) { EXPECT_EQ(platform::LoadIconA("ICONONE"), 0); }
+
+}  // namespace
