@@ -1,0 +1,38 @@
+#include "automation/dialog_verbs.h"
+
+#include "automation/window_search.h"
+#include "engine/state.h"
+#include "frame/frmStatus.h"
+#include "frame/state.h"
+#include "platform/system.h"
+#include "platform/window_lookup.h"
+#include "runtime/fault.h"
+#include "runtime/text.h"
+
+namespace basMain {
+
+using runtime::Skip;
+
+bool HideDialog() {
+  run.DialogHidden = true;
+  Skip([] { frmStatus.Hide(); });
+  return true;
+}
+
+bool ShowDialog() {
+  run.DialogHidden = false;
+  Skip([] { frmStatus.Show(); });
+  return true;
+}
+
+bool IsActiveWindow(const std::string& title, const std::string& foreground) {
+  if (runtime::ToUpper(foreground) != "TRUE") return runtime::Contains(GetWindowTitle(frame.MainWindow), title);
+  HideDialog();
+  Skip([] { platform::Sleep(1000); });
+  std::string active;
+  Skip([&] { active = GetWindowTitle(platform::GetForegroundWindow()); });
+  ShowDialog();
+  return runtime::Contains(active, title);
+}
+
+}  // namespace basMain

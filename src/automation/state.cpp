@@ -1,0 +1,7 @@
+#include "automation/state.h"
+
+namespace basMain {
+
+AutomationState automation;
+
+}  // namespace basMain

@@ -1,0 +1,7 @@
+#include "clients/state.h"
+
+namespace basMain {
+
+ClientState clients;
+
+}  // namespace basMain

@@ -1,0 +1,7 @@
+#include "engine/line_watch.h"
+
+namespace basMain {
+
+LineWatch lineWatch;
+
+}  // namespace basMain

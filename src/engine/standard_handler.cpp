@@ -1,0 +1,11 @@
+#include "engine/standard_handler.h"
+
+#include "resources/texts.h"
+
+namespace basMain {
+
+std::string StandardErrorText(const std::string& routine, const runtime::Fault& fault) {
+  return resources::Text(resources::TextId::FunctionFault, routine) + fault.description;
+}
+
+}  // namespace basMain

@@ -1,0 +1,37 @@
+// The standard handler: a fault in a routine becomes the run's error text, and the routine yields false.
+//
+// A few routines tell of their faults without ending: each of their statements stands in NoteFault, and behind a fault
+// the next one runs.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "engine/state.h"
+#include "runtime/fault.h"
+
+namespace basMain {
+
+// "Fehler in Funktion %1:" with the routine's name, followed directly by the fault's description.
+std::string StandardErrorText(const std::string& routine, const runtime::Fault& fault);
+
+template <class Body>
+bool Standard(const std::string& routine, Body&& body) {
+  try {
+    return std::forward<Body>(body)();
+  } catch (const runtime::Fault& fault) {
+    run.LastError = StandardErrorText(routine, fault);
+    return false;
+  }
+}
+
+template <class Statement>
+void NoteFault(const std::string& routine, Statement&& statement) {
+  try {
+    std::forward<Statement>(statement)();
+  } catch (const runtime::Fault& fault) {
+    run.LastError = StandardErrorText(routine, fault);
+  }
+}
+
+}  // namespace basMain

@@ -1,0 +1,7 @@
+#include "engine/state.h"
+
+namespace basMain {
+
+RunState run;
+
+}  // namespace basMain

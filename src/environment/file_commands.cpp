@@ -1,0 +1,190 @@
+#include "environment/file_commands.h"
+
+#include <array>
+#include <cstdint>
+
+#include "automation/window_search.h"
+#include "engine/standard_handler.h"
+#include "engine/state.h"
+#include "environment/file_system.h"
+#include "environment/paths.h"
+#include "environment/settings.h"
+#include "forms/form.h"
+#include "frame/frmStatus.h"
+#include "frame/log.h"
+#include "platform/messages.h"
+#include "platform/system.h"
+#include "resources/texts.h"
+#include "runtime/fault.h"
+#include "runtime/text.h"
+
+namespace basMain {
+namespace {
+
+using resources::Text;
+using resources::TextId;
+
+// From the last dot to the end, in capitals; empty without a dot.
+std::string GetExtension(const std::string& path) {
+  const auto dot = path.rfind('.');
+  return dot == std::string::npos ? "" : runtime::ToUpper(path.substr(dot));
+}
+
+// Up to and including the last backslash; empty without one.
+std::string GetFolderPart(const std::string& path) {
+  const auto backslash = path.rfind('\\');
+  return backslash == std::string::npos ? "" : path.substr(0, backslash + 1);
+}
+
+// The files that are waited for.
+struct FileList {
+  std::array<std::string, 100> paths;
+  std::size_t count = 0;
+
+  void Add(const std::string& path) {
+    if (count >= paths.size()) throw runtime::Fault(runtime::FaultNumber::OutOfRange);
+    paths[count++] = path;
+  }
+};
+
+// One look for the files; true when there is one. The name part of a pattern plays no role.
+bool FindFiles(const std::string& file, FileList& list) {
+  list.count = 0;
+  if (!runtime::Contains(file, "*")) {
+    list.Add(file);
+    return FileSystem().FileExists(file);
+  }
+  const std::string extension = GetExtension(file);
+  for (const FolderFile& found : FileSystem().FilesOf(GetFolderPart(file)))
+    if (GetExtension(found.Name) == extension) list.Add(found.Path);
+  return list.count > 0;
+}
+
+// Waits until two sizes that are read 1.5 seconds apart are equal.
+void WaitUntilFinished(const std::string& path) {
+  while (FileSystem().FileExists(path)) {
+    const std::int32_t size = FileSystem().SizeOf(path);
+    forms::Pump();
+    DisplayStatus(Text(TextId::FileRead), std::to_string(size));
+    platform::Sleep(1500);
+    if (FileSystem().SizeOf(path) == size || run.StopRun) return;
+  }
+  LogWrite(Text(TextId::FileGone) + path);
+}
+
+}  // namespace
+
+bool DeleteFile(const std::string& file) {
+  return Standard("DeleteFile", [&] {
+    // Only this sequence is a pattern: "*.txt" is tested as a name, is not found and counts as deleted.
+    const bool pattern = runtime::Contains(file, "*.*");
+    if (pattern || basAPI::CheckFileExists(file)) FileSystem().DeleteFile(file);
+    LogWrite(Text(pattern ? TextId::FilesDeleted : TextId::FileDeleted) + file);
+    return true;
+  });
+}
+
+bool DeleteFolder(const std::string& folder) {
+  const bool deleted = Standard("DeleteFolder", [&] {
+    if (!FileSystem().FolderExists(folder)) return true;
+    FileSystem().DeleteFolder(folder);
+    LogWrite(Text(TextId::FolderDeleted) + folder);
+    return true;
+  });
+  if (!deleted) run.LastError += " (" + folder + ")";
+  return deleted;
+}
+
+bool CopyFile(const std::string& source, const std::string& destination) {
+  try {
+    // Makes a directory of what was meant as a file's name too, which the copy is then refused by.
+    basAPI::CreatePath(destination);
+    FileSystem().CopyFile(source, destination);
+    LogWrite("CopyFile " + source + " To " + destination);
+    return true;
+  } catch (const runtime::Fault& fault) {
+    run.LastError = "Fehler " + std::to_string(static_cast<int>(fault.number)) + " beim Kopieren: " + fault.description;
+    return false;
+  }
+}
+
+bool CopyFolder(const std::string& source, const std::string& destination) {
+  return Standard("CopyFolder", [&] {
+    LogWrite("CopyFolder: Source=" + source + " Destination=" + destination);
+    if (source.empty() || destination.empty()) return true;
+    if (!FileSystem().FolderExists(destination)) {
+      LogWrite("Ordner wird erstellt (" + destination + ")");
+      basAPI::CreatePath(destination);
+    }
+    if (FileSystem().FolderExists(source)) FileSystem().CopyFolder(source, destination);
+    return true;
+  });
+}
+
+bool RenamePath(const std::string& source, const std::string& destination) {
+  return Standard("RenamePath", [&] {
+    LogWrite("RenamePath: Source=" + source + " Destination=" + destination);
+    if (source.empty() || destination.empty()) return true;
+    // Before the source is looked at: a missing source costs the destination.
+    if (FileSystem().FolderExists(destination)) {
+      LogWrite("Ordner wird gelöscht, da dieser bereits existiert (" + destination + ")");
+      FileSystem().DeleteFolder(destination);
+    }
+    if (FileSystem().FolderExists(source)) FileSystem().MoveFolder(source, destination);
+    return true;
+  });
+}
+
+std::string CreateDir(const std::string& piece1, const std::string& piece2, const std::string& piece3,
+                      const std::string& piece4, const std::string& piece5) {
+  std::string made;
+  Standard("CreateDir", [&] {
+    // Dates become folder names in this way; a dot in a fixed part of the path goes too.
+    const std::string path = runtime::Remove(basAPI::JoinPath(piece1, piece2, piece3, piece4, piece5), '.');
+    basAPI::CreatePath(path);
+    LogWrite("CreateDir: " + path);
+    made = path;
+    return true;
+  });
+  return made;
+}
+
+bool WaitForFile(const std::string& file) {
+  return Standard("WaitForFile", [&] {
+    FileList list;
+    bool found = false;
+    do {
+      found = FindFiles(file, list);
+      forms::Pump();
+      platform::Sleep(500);
+    } while (!found && !run.StopRun);
+    for (std::size_t i = 0; i < list.count; ++i) WaitUntilFinished(list.paths[i]);
+    return true;
+  });
+}
+
+bool DisplayStatus(const std::string& text, const std::string& value) {
+  const std::string shown = value.empty() ? text : runtime::Replace(text, "%1", value);
+  forms::Pump();
+  frmStatus.Status(shown);
+  LogWrite(shown);
+  return true;
+}
+
+bool CloseWindow(const std::string& window, const std::string& exact) {
+  std::int32_t hWindow = 0;
+  std::int32_t hControl = 0;
+  SearchWindow(window, hWindow, exact == "1", "", "", "0", "", hControl);
+  if (platform::SendMessageA(hWindow, platform::WM_CLOSE, 0, 0) != 0) {
+    run.LastError = Text(TextId::WindowNotClosed);
+    return false;
+  }
+  LogWrite(Text(TextId::WindowClosed));
+  return true;
+}
+
+bool IsGdpduMode(const std::string& value) {
+  return basAPI::ReadIniString(basAPI::SettingsFile(), "Allgemein", "GDPDU", "0") == value;
+}
+
+}  // namespace basMain

@@ -1,0 +1,45 @@
+#include "environment/paths.h"
+
+#include "engine/standard_handler.h"
+#include "environment/file_system.h"
+#include "frame/log.h"
+#include "platform/files.h"
+#include "platform/system.h"
+#include "resources/texts.h"
+#include "runtime/fault.h"
+
+namespace basAPI {
+
+std::string JoinPieces(std::initializer_list<std::string_view> pieces) {
+  std::string path;
+  bool first = true;
+  for (std::string_view piece : pieces) {
+    if (!first && piece.starts_with('\\')) piece.remove_prefix(1);
+    if (piece.ends_with('\\')) piece.remove_suffix(1);
+    if (!first) path += '\\';
+    path += piece;
+    first = false;
+  }
+  return path;
+}
+
+bool CreatePath(const std::string& path) {
+  return basMain::Standard("CreatePath", [&] {
+    const std::string directory = path.ends_with('\\') ? path : path + "\\";
+    if (!platform::MakeSureDirectoryPathExists(directory)) return false;
+    basMain::LogWrite(resources::Text(resources::TextId::PathCreated) + directory);
+    return true;
+  });
+}
+
+bool CheckFileExists(const std::string& path) {
+  bool exists = false;
+  runtime::Skip([&] { exists = basMain::FileSystemObject().FileExists(path); });
+  return exists;
+}
+
+std::string TrimAtNul(const std::string& text) { return text.substr(0, text.find('\0')); }
+
+std::string SettingsFile() { return JoinPath(platform::ApplicationPath(), "QUMAEXP.INI"); }
+
+}  // namespace basAPI

@@ -1,0 +1,32 @@
+// Thin path helpers.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace basAPI {
+
+// Joins the pieces by single backslashes. One backslash is removed at each end of each piece, but not at the front of
+// the first. An empty piece still adds its backslash.
+std::string JoinPieces(std::initializer_list<std::string_view> pieces);
+
+template <class... Piece>
+std::string JoinPath(const Piece&... pieces) {
+  return JoinPieces({std::string_view(pieces)...});
+}
+
+// Makes all missing directories of the path. True when they are there; each success logs text 1012 and the path with a
+// trailing backslash, also when nothing had to be made. A refusal is not reported; a fault goes to LastError.
+bool CreatePath(const std::string& path);
+
+// By a file-system object of its own; a fault counts as false.
+bool CheckFileExists(const std::string& path);
+
+// The part before the first NUL, or all of it.
+std::string TrimAtNul(const std::string& text);
+
+// The settings file beside the program; computed anew at each use.
+std::string SettingsFile();
+
+}  // namespace basAPI

@@ -1,0 +1,50 @@
+// The main form: never seen, it owns a window for the message queue, the notification icon with its menu, the hot key
+// and the clipboard timer.
+#pragma once
+
+#include <cstdint>
+
+#include "forms/form.h"
+#include "platform/shell.h"
+
+namespace basMain {
+
+struct MainForm : forms::Form {
+  MainForm();
+
+  // Shows the state of the program in the notification area: 0 idle, 1 running, 2 failed. Another value keeps the icon.
+  void SwitchTray(std::int16_t state);
+
+  // One press of the hot key: chooses the macro by the foreground window's caption, confirms client and year where the
+  // settings want it, and runs the macro. Returns when the run has ended or has failed. No fault stops it: each faulty
+  // statement is skipped.
+  void Hotkey();
+
+  void mnuProto_Click();
+  void mnuInfo_Click();
+  void mnuExit_Click();
+  void Timer1_Timer();
+
+  forms::Menu mnuDatei;
+  forms::Timer Timer1;
+
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_MouseMove(double X) override;
+  void Form_QueryUnload() override;
+
+ private:
+  platform::NOTIFYICONDATA TrayRecord() const;
+
+  std::int32_t icon_ = 0;   // the one that the notification area shows
+  bool trayEvent_ = false;  // guards Form_MouseMove against re-entry
+};
+
+extern MainForm frmMain;
+
+// The window procedure that Form_Load puts in front of the form's own: answers the hot key, and gives it and the window
+// procedure back when the window goes. A run takes place inside this call.
+std::int32_t PLATFORM_CALLBACK MainWindowProc(std::int32_t hWnd, std::uint32_t uMsg, std::int32_t wParam,
+                                              std::int32_t lParam);
+
+}  // namespace basMain

@@ -1,0 +1,7 @@
+#include "frame/state.h"
+
+namespace basMain {
+
+FrameState frame;
+
+}  // namespace basMain

@@ -1,0 +1,7 @@
+#include "input/state.h"
+
+namespace basMain {
+
+InputRoomState inputRoom;
+
+}  // namespace basMain

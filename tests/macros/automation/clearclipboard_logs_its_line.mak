@@ -1,0 +1,2 @@
+CLEARCLIPBOARD
+REM erwartet: Die Zwischenablage wurde gelöscht.

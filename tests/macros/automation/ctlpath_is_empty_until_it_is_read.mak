@@ -1,0 +1,2 @@
+MSG=<$CTLPATH>
+REM erwartet: MSG: <>

@@ -1,0 +1,3 @@
+GETCHECK=1,Export,1
+REM erwartet: Optionsfeld konnte nicht gefunden werden.
+REM fehler:

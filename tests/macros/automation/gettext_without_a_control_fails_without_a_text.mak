@@ -1,0 +1,2 @@
+GETTEXT=Text,1,Export,1
+REM fehler:

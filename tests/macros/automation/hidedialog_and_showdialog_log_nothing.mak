@@ -1,0 +1,4 @@
+HIDEDIALOG
+SHOWDIALOG
+MSG=weiter
+REM erwartet: MSG: weiter

@@ -1,0 +1,2 @@
+MAXWINDOW
+REM erwartet: Fenster wurde maximiert.

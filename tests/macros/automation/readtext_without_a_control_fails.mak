@@ -1,0 +1,2 @@
+READTEXT=1,Export,1
+REM fehler: ReadText konnte das Control nicht finden

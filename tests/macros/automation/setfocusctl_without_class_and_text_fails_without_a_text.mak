@@ -1,0 +1,2 @@
+SETFOCUSCTL=,,7
+REM fehler:

@@ -1,0 +1,3 @@
+REM erwartet: MatrixValue:  Pos: 0 Bereich: JAHR
+REM erwartet: MSG: <>
+MSG=<$MATRIXJAHR>

@@ -1,0 +1,3 @@
+REM Two blanks are another verb.
+IF  STRCOMP=a,b
+REM fehler: Unknown Command: IF  STRCOMP

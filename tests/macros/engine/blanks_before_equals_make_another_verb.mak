@@ -1,0 +1,3 @@
+REM Nothing is trimmed around "=".
+SETTEXT =abc
+REM fehler: Unknown Command: SETTEXT 

@@ -1,0 +1,6 @@
+REM ELSE inverts always, so without a condition it begins a skipped branch.
+ELSE
+MSG=übergangen
+ENDIF
+MSG=da
+REM erwartet: MSG: da

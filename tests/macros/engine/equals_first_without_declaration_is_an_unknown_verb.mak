@@ -1,0 +1,3 @@
+REM With nothing declared there is no record that the empty name could match.
+=VALUE(5)
+REM fehler: Unknown Command: 

@@ -1,0 +1,4 @@
+REM Declared variables make no difference to it.
+DIM x
+MSG(x)
+REM fehler: Unknown Command: MSG(X)

@@ -1,0 +1,7 @@
+REM It is an action.
+IF STRCOMP=a,b
+REM erwartet: STRCOMP: a, b = False
+RAISEERROR=Text
+ENDIF
+MSG=da
+REM erwartet: MSG: da

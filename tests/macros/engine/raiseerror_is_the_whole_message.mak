@@ -1,0 +1,3 @@
+REM No prefix is added.
+RAISEERROR='Kein Mandant, bitte öffnen.'
+REM fehler: Kein Mandant, bitte öffnen.

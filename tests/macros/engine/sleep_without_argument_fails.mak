@@ -1,0 +1,3 @@
+REM An absent argument is the empty text.
+SLEEP
+REM fehler: 

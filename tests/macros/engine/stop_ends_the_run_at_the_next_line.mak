@@ -1,0 +1,4 @@
+REM HOLD is the same command.
+HOLD
+MSG=nie
+REM angehalten

@@ -1,0 +1,3 @@
+REM The failure has no text of its own.
+WAIT=abc
+REM fehler: 

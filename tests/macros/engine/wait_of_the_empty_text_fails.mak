@@ -1,0 +1,3 @@
+REM The empty text is not numeric.
+WAIT=
+REM fehler: 

@@ -1,0 +1,3 @@
+REM No setting, no list.
+MSG=$WJ
+REM erwartet: MSG: 2006

@@ -1,0 +1,3 @@
+REM fehler: GetCSVValue: Trennzeichen in Zeile '' nicht vorhanden.
+CSVVALUE=0
+MSG=nie

@@ -1,0 +1,3 @@
+REM fehler: CSV-Datei (C:\fehlt.csv) existiert nicht...
+OPENCSV=C:\fehlt.csv,0,;
+MSG=nie

@@ -1,0 +1,2 @@
+WAITFORFILE=C:\fehlt\*.txt
+REM fehler: Fehler in Funktion WaitForFile:Pfad nicht gefunden

@@ -1,0 +1,3 @@
+CREATEPROTOCOL=x.txt
+CREATEPROTOCOL=a?b.txt
+REM fehler: Fehler in Funktion CreateProtocol:Falscher Dateiname

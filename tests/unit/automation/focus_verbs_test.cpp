@@ -1,0 +1,319 @@
+// The verbs that move the focus.
+#include "automation/focus_verbs.h"
+
+#include "frame/frmMain.h"
+#include "frame/frmStatus.h"
+#include "frame/state.h"
+#include "platform/input.h"
+#include "platform/window_lookup.h"
+#include "unit/automation/control_test.h"
+
+namespace {
+
+using namespace basMain;
+using namespace platform::simulated;
+using namespace support;
+
+// "SELECTALL".
+
+class SelectAllTest : public ControlTest {
+ protected:
+  SelectAllTest() { frmStatus.Show(); }
+
+  // A list of so many rows, all of which Ctrl+A selects.
+  std::int32_t List(std::int32_t id, std::size_t rows, std::int32_t parent = 0) {
+    const std::int32_t list = Child("SysListView32", "", id, parent);
+    At(list).rows.resize(rows);
+    When(list, platform::WM_CHAR, [list](const Message& message) {
+      if (message.wParam == 1)
+        for (ListRow& row : At(list).rows) row.state |= LVIS_SELECTED;
+      return std::nullopt;
+    });
+    return list;
+  }
+
+  static std::string Selected(int rows) { return "Die Liste wurde ausgewählt (" + std::to_string(rows) + ")"; }
+  static void ExpectNotSelected() { ExpectFailure("Die Liste konnte nicht ausgewählt werden."); }
+};
+
+TEST_F(SelectAllTest, AllRowsAreSelectedByTheKeys) {
+  const std::int32_t other = List(4, 1);
+  List(5, 3);
+  EXPECT_TRUE(SelectAll("5", "Export", "1", ""));
+  ExpectLog({Selected(3)});
+  EXPECT_EQ(run.LastError, "");
+  EXPECT_EQ(At(other).rows[0].state, 0u);
+}
+
+TEST_F(SelectAllTest, TheFocusMovesToTheListWhileTheQueuesAreJoined) {
+  const std::int32_t list = List(5, 3);
+  std::uint32_t process = 0;
+  const std::string threads = std::to_string(platform::GetWindowThreadProcessId(window_, process)) + " " +
+                              std::to_string(platform::GetWindowThreadProcessId(frmStatus.hWnd(), process));
+  EXPECT_TRUE(SelectAll("5", "Export", "1", ""));
+  const Lines& input = InputLog();
+  ASSERT_GE(input.size(), 5u);
+  EXPECT_EQ(input[0], "AttachThreadInput " + threads + " 1");
+  EXPECT_EQ(input[1], "SetForegroundWindow " + std::to_string(window_));
+  EXPECT_EQ(input[2], "SetFocus " + std::to_string(list));
+  EXPECT_EQ(input.back(), "AttachThreadInput " + threads + " 0");
+  EXPECT_EQ(TypedText(list), "\x01");
+  EXPECT_TRUE(At(frmStatus.hWnd()).topMost);
+}
+
+TEST_F(SelectAllTest, TheCountsAreAskedForAfterTheKeys) {
+  const std::int32_t list = List(5, 3);
+  EXPECT_TRUE(SelectAll("5", "Export", "1", ""));
+  const Numbers numbers = ReceivedNumbers(list);
+  ASSERT_GE(numbers.size(), 3u);
+  EXPECT_EQ(Numbers(numbers.end() - 2, numbers.end()),
+            (Numbers{platform::LVM_GETSELECTEDCOUNT, platform::LVM_GETITEMCOUNT}));
+}
+
+TEST_F(SelectAllTest, TheListMayBeBelowAParent) {
+  const std::int32_t frame = Child("ThunderRT6Frame", "", 13);
+  List(5, 2);
+  const std::int32_t list = List(5, 3, frame);
+  EXPECT_TRUE(SelectAll("5", "Export", "1", "13"));
+  ExpectLog({Selected(3)});
+  EXPECT_EQ(TypedText(list), "\x01");
+  // The parent stands for the window in all that follows.
+  EXPECT_EQ(InputLog()[1], "SetForegroundWindow " + std::to_string(frame));
+}
+
+TEST_F(SelectAllTest, TheFirstChildStandsInForAParentThatIsMissing) {
+  List(5, 3, Child("ThunderRT6Frame", "", 12));
+  List(5, 4, Child("ThunderRT6Frame", "", 14));
+  EXPECT_TRUE(SelectAll("5", "Export", "1", "13"));
+  EXPECT_TRUE(SelectAll("5", "Export", "1", "x"));
+  EXPECT_TRUE(SelectAll("5", "Export", "1", "14"));
+  ExpectLog({Selected(3), Selected(3), Selected(4)});
+}
+
+TEST_F(SelectAllTest, ThereIsNoDeepSearch) {
+  List(5, 3, Child("ThunderRT6Frame", "", 13));
+  EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
+  ExpectNotSelected();
+  EXPECT_TRUE(InputLog().empty());
+}
+
+TEST_F(SelectAllTest, WithoutAListItFails) {
+  EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
+  ExpectNotSelected();
+  EXPECT_FALSE(SelectAll("5", "Export", "1", "13"));
+  ExpectNotSelected();
+  EXPECT_FALSE(SelectAll("5", "Import", "1", ""));
+  ExpectNotSelected();
+  EXPECT_FALSE(SelectAll("5", "Import", "1", "13"));
+  ExpectNotSelected();
+}
+
+TEST_F(SelectAllTest, AnEmptyListWritesTheLineOfSuccessAndFails) {
+  List(5, 0);
+  EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
+  ExpectLog({Selected(0)});
+  EXPECT_EQ(run.LastError, "In der Liste sind keine Einträge vorhanden.");
+}
+
+TEST_F(SelectAllTest, RowsThatAreLeftOutFail) {
+  Answer(List(5, 3), platform::LVM_GETSELECTEDCOUNT, 2);
+  EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
+  ExpectNotSelected();
+}
+
+TEST_F(SelectAllTest, AnEmptyListThatTellsOfSelectedRowsIsEmpty) {
+  Answer(List(5, 0), platform::LVM_GETSELECTEDCOUNT, 2);
+  EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
+  ExpectFailure("In der Liste sind keine Einträge vorhanden.");
+}
+
+TEST_F(SelectAllTest, AListThatVanishesByTheKeysIsEmpty) {
+  VanishAt(List(5, 3), platform::WM_CHAR);
+  EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
+  ExpectLog({Selected(0)});
+  EXPECT_EQ(run.LastError, "In der Liste sind keine Einträge vorhanden.");
+}
+
+TEST_F(SelectAllTest, AWindowThatVanishesByTheKeysLeavesNoQueuesJoined) {
+  When(List(5, 3), platform::WM_KEYDOWN, [this](const Message&) {
+    DestroyWindow(window_);
+    return 0;
+  });
+  EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
+  EXPECT_EQ(InputLog().back().back(), '0');
+  EXPECT_TRUE(At(frmStatus.hWnd()).topMost);
+}
+
+TEST_F(SelectAllTest, AWindowThatVanishesDuringTheSearchIsNoWindow) {
+  List(5, 3);
+  Schedule(5, [this] { DestroyWindow(window_); });
+  EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
+  ExpectNotSelected();
+}
+
+TEST_F(SelectAllTest, AnIdThatIsNoNumberMeansTheId0) {
+  List(0, 3);
+  EXPECT_TRUE(SelectAll("x", "Export", "1", ""));
+  ExpectLog({Selected(3)});
+}
+
+TEST_F(SelectAllTest, AnIdBeyond32BitsEndsInTheStandardHandler) {
+  EXPECT_FALSE(SelectAll("99999999999", "Export", "1", ""));
+  ExpectFailure("Fehler in Funktion SelectAll:Überlauf");
+  EXPECT_FALSE(SelectAll("5", "Export", "1", "99999999999"));
+  ExpectFailure("Fehler in Funktion SelectAll:Überlauf");
+}
+
+TEST_F(SelectAllTest, TheVerbsPassTheirFourArgumentsInOrder) {
+  List(5, 3, Child("ThunderRT6Frame", "", 13));
+  EXPECT_TRUE(RunLines({"SELECTALL=5,Expor,0,13", "IF SELECTALL=5,Export,1,13", "MSG=ja", "ENDIF",
+                        "IF SELECTALL=5,Export,1", "MSG=nie", "ELSE", "MSG=sonst", "ENDIF"}));
+  ExpectLog(Completed({Selected(3), Selected(3), "MSG: ja", "MSG: sonst"}));
+}
+
+TEST_F(SelectAllTest, AFailureFailsTheRun) {
+  List(5, 0);
+  EXPECT_FALSE(RunLines({"SELECTALL=5,Export,1", "MSG=nie"}));
+  ExpectLog({Selected(0), "In der Liste sind keine Einträge vorhanden."});
+}
+
+// "SETFOCUSCTL".
+
+class SetFocusCtlTest : public ControlTest {
+ protected:
+  SetFocusCtlTest() {
+    StartProgram();
+    Activate(window_);
+  }
+
+  static Lines Focused(std::int32_t control) {
+    return {"Der Fokus wurde auf das Feld gesetzt. (" + std::to_string(control) + ")"};
+  }
+};
+
+TEST_F(SetFocusCtlTest, TheControlOfClassTextAndIdGetsTheFocus) {
+  Child("Button", "Start", 6);
+  const std::int32_t control = Child("Button", "Start", 7, Child("ThunderRT6Frame", "", 3));
+  EXPECT_TRUE(SetFocusCtl("Button", "Start", "7"));
+  EXPECT_EQ(Focus(), control);
+  ExpectLog(Focused(control));
+}
+
+TEST_F(SetFocusCtlTest, TheQueuesAreJoinedWithTheMainFormsForItAndNoWindowIsBroughtToTheFront) {
+  const std::int32_t control = Child("Button", "Start", 7);
+  std::uint32_t process = 0;
+  const std::string threads = std::to_string(platform::GetWindowThreadProcessId(window_, process)) + " " +
+                              std::to_string(platform::GetWindowThreadProcessId(frmMain.hWnd(), process));
+  EXPECT_TRUE(SetFocusCtl("Button", "", "0"));
+  EXPECT_EQ(InputLog(), (Lines{"AttachThreadInput " + threads + " 1", "SetFocus " + std::to_string(control),
+                               "AttachThreadInput " + threads + " 0"}));
+}
+
+TEST_F(SetFocusCtlTest, ItWorksInTheWindowInFrontWithoutASearch) {
+  const std::int32_t front = AddWindow({.className = "X", .text = ""});
+  const std::int32_t control = Child("Button", "Start", 7, front);
+  Child("Button", "Start", 7);
+  Activate(front);
+  EXPECT_TRUE(SetFocusCtl("Button", "Start", "7"));
+  EXPECT_EQ(Clock(), 0);
+  ExpectLog(Focused(control));
+}
+
+TEST_F(SetFocusCtlTest, WithoutClassAndTextNothingIsWritten) {
+  run.LastError = "vorher";
+  EXPECT_FALSE(SetFocusCtl("", "", "7"));
+  ExpectFailure("vorher");
+  EXPECT_TRUE(InputLog().empty());
+}
+
+TEST_F(SetFocusCtlTest, ATextAloneFindsNothingAndSucceeds) {
+  Child("Button", "Start", 7);
+  EXPECT_TRUE(SetFocusCtl("", "Start", "7"));
+  ExpectLog(Focused(0));
+  EXPECT_EQ(run.LastError, "");
+}
+
+TEST_F(SetFocusCtlTest, AnIdThatIsNoNumberFindsNothingAndSucceeds) {
+  Child("Button", "Start", 7);
+  for (const char* id : {"x", "", "99999999999"}) EXPECT_TRUE(SetFocusCtl("Button", "Start", id)) << id;
+  ExpectLog(Focused(0) + Focused(0) + Focused(0));
+  EXPECT_EQ(run.LastError, "");
+}
+
+TEST_F(SetFocusCtlTest, StepsThatFailArePassedOver) {
+  const std::int32_t control = Child("Button", "Start", 7);
+  Fail("AttachThreadInput");
+  Fail("SetFocus");
+  EXPECT_TRUE(SetFocusCtl("Button", "Start", "7"));
+  ExpectLog(Focused(control));
+}
+
+TEST_F(SetFocusCtlTest, WithoutAWindowInFrontItSucceedsWith0) {
+  DestroyWindow(window_);
+  EXPECT_TRUE(SetFocusCtl("Button", "Start", "7"));
+  ExpectLog(Focused(0));
+}
+
+TEST_F(SetFocusCtlTest, TheVerbPassesItsThreeArgumentsInOrder) {
+  const std::int32_t control = Child("Button", "Start", 7);
+  EXPECT_TRUE(RunLines({"SETFOCUSCTL=Button,Start,7"}));
+  ExpectLog(Completed(Focused(control)));
+}
+
+TEST_F(SetFocusCtlTest, WithoutClassAndTextTheRunFailsWithTheTextThatStood) {
+  EXPECT_FALSE(RunLines({"SETFOCUSCTL=,,7", "MSG=nie"}));
+  ExpectLog({""});
+}
+
+// "SETFOCUS".
+
+class SetFocusWindowTest : public ControlTest {
+ protected:
+  SetFocusWindowTest() { Activate(other_); }
+
+  const std::int32_t other_ = AddWindow({.className = "X", .text = "Anderes"});
+  const Lines focused_ = {"Der Fokus wurde gesetzt."};
+};
+
+TEST_F(SetFocusWindowTest, WithoutAWordTheMainWindowComesToTheFront) {
+  EXPECT_TRUE(SetFocusWindow(""));
+  EXPECT_EQ(Foreground(), window_);
+  EXPECT_EQ(Clock(), 0);
+  ExpectLog(focused_);
+}
+
+TEST_F(SetFocusWindowTest, AWindowComesToTheFrontByAPartOfItsTitle) {
+  frame.MainWindow = other_;
+  EXPECT_TRUE(SetFocusWindow("xpor"));
+  EXPECT_EQ(Foreground(), window_);
+  ExpectLog(focused_);
+}
+
+TEST_F(SetFocusWindowTest, WithoutSuchAWindowNothingMovesAndTheLineIsTheSame) {
+  EXPECT_TRUE(SetFocusWindow("Import"));
+  EXPECT_EQ(Foreground(), other_);
+  EXPECT_TRUE(InputLog().empty());
+  ExpectLog(focused_);
+  EXPECT_EQ(run.LastError, "");
+}
+
+TEST_F(SetFocusWindowTest, AWindowThatDoesNotComeIsPassedOver) {
+  Fail("SetForegroundWindow");
+  EXPECT_TRUE(SetFocusWindow("Export"));
+  ExpectLog(focused_);
+}
+
+TEST_F(SetFocusWindowTest, AMainWindowThatIsGoneIsPassedOver) {
+  DestroyWindow(window_);
+  EXPECT_TRUE(SetFocusWindow(""));
+  EXPECT_EQ(Foreground(), other_);
+  ExpectLog(focused_);
+}
+
+TEST_F(SetFocusWindowTest, TheVerb) {
+  EXPECT_TRUE(RunLines({"SETFOCUS=Expor", "SETFOCUS"}));
+  ExpectLog(Completed({focused_[0], focused_[0]}));
+  EXPECT_EQ(Foreground(), window_);
+}
+
+}  // namespace

@@ -1,0 +1,64 @@
+#include "rehearsal.h"
+
+#include "automation/state.h"
+#include "clients/state.h"
+#include "engine/line_watch.h"
+#include "engine/state.h"
+#include "environment/csv_reader.h"
+#include "environment/file_system.h"
+#include "environment/modRegistry.h"
+#include "forms/simulated/user.h"
+#include "frame/frmMain.h"
+#include "frame/log.h"
+#include "frame/protocol.h"
+#include "frame/state.h"
+#include "input/state.h"
+#include "platform/registry.h"
+#include "platform/simulated/desktop.h"
+
+namespace rehearsal {
+
+namespace simulated = platform::simulated;
+
+namespace {
+
+void ResetSystem() {
+  basMain::log = {};
+  basMain::protocol = {};
+  basMain::FileSystemState.reset();
+  basMain::run = {};
+  basMain::lineWatch = {};
+  basMain::frame = {};
+  basMain::automation = {};
+  basMain::clients = {};
+  basMain::inputRoom = {};
+  basMain::csv = {};
+  modRegistry::state = {};
+  forms::simulated::Reset();
+  simulated::Reset();
+}
+
+}  // namespace
+
+FreshSystem::FreshSystem() { ResetSystem(); }
+FreshSystem::~FreshSystem() { ResetSystem(); }
+
+void StartProgram() {
+  simulated::Registry()["Software\\TARVEN\\Setup\\Destinations"].try_emplace(
+      "Teru", simulated::RegistryValue{platform::REG_SZ, std::string("C:\\TeRu\0", 9)});
+  basMain::frmMain.Load();
+}
+
+std::vector<std::string> LinesOf(const std::string& path) {
+  std::vector<std::string> lines;
+  const std::string text = simulated::GetFile(path);
+  std::size_t from = 0;
+  for (auto end = text.find("\r\n"); end != std::string::npos; end = text.find("\r\n", from)) {
+    lines.push_back(text.substr(from, end - from));
+    from = end + 2;
+  }
+  if (from < text.size()) lines.push_back(text.substr(from));
+  return lines;
+}
+
+}  // namespace rehearsal
