@@ -1,0 +1,424 @@
+"""makrun from outside: each option, each exit status, and each mistake that a desktop file can hold."""
+
+import pathlib
+import re
+import subprocess
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+MAKRUN = ROOT / "build" / "native" / "makrun"
+STARS = "*" * 80
+COMPLETED = ["Die Verarbeitung ist erfolgreich abgeschlossen.", STARS]
+STOPPED = ["Die Verarbeitung wurde angehalten.", STARS]
+
+
+class MakrunTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+
+    def file(self, name, text, encoding="cp1252"):
+        path = self.folder / name
+        path.write_bytes(text.encode(encoding))
+        return str(path)
+
+    def macro(self, *lines, name="test.mak"):
+        return self.file(name, "".join(line + "\r\n" for line in lines))
+
+    def makrun(self, *arguments, status=0):
+        done = subprocess.run([str(MAKRUN), *map(str, arguments)], capture_output=True, timeout=60, cwd=self.folder)
+        errors = done.stderr.decode()
+        self.assertEqual(done.returncode, status, errors)
+        self.errors = errors
+        return done.stdout.decode().splitlines()
+
+    def desktop(self, text):
+        return ["--desktop", self.file("test.desktop", text, "utf-8")]
+
+    # --- exit status and output
+
+    def test_a_completed_run_prints_its_log_and_ends_with_0(self):
+        self.assertEqual(self.makrun(self.macro("MSG=Größe")), ["MSG: Größe", *COMPLETED])
+        self.assertEqual(self.errors, "")
+
+    def test_a_failed_run_ends_with_1_and_tells_the_error(self):
+        macro = self.macro("MSG=a", "RAISEERROR=Das war ein Fehler", "MSG=b")
+        self.assertEqual(self.makrun(macro, status=1), ["MSG: a", "Das war ein Fehler"])
+        self.assertEqual(self.errors, "Das war ein Fehler\n")
+
+    def test_a_stopped_run_ends_with_2(self):
+        self.assertEqual(self.makrun(self.macro("STOP", "MSG=b"), status=2), STOPPED)
+
+    def test_a_wrong_command_line_ends_with_64_and_tells_why(self):
+        macro = self.macro("MSG=a")
+        for arguments, reason in [
+            ([], "no macro is named"),
+            ([macro, macro], "one macro at a time"),
+            (["--unknown", macro], "there is no option --unknown"),
+            ([macro, "--desktop"], "--desktop wants a value"),
+            (["--resume", "x", macro], "--resume wants a number"),
+            (["--resume", "-1", macro], "--resume wants a number"),
+            (["--time-limit", "2000001", macro], "--time-limit wants a number from 0 to 2000000"),
+            (["--line-limit", "", macro], "--line-limit wants a number"),
+            (["--now", "2006-02-30 00:00:00", macro], "--now wants a time"),
+            (["--now", "2006-02-28", macro], "--now wants a time"),
+            (["--now", "2006-02-28 24:00:00", macro], "--now wants a time"),
+            (["--family", "xp", macro], "--family wants nt or 9x"),
+            (["--answer", "frmInputbox", macro], "--answer wants FORM.CONTROL"),
+            (["--answer", ".cmdOK", macro], "--answer wants FORM.CONTROL"),
+        ]:
+            with self.subTest(reason):
+                self.assertEqual(self.makrun(*arguments, status=64), [])
+                self.assertIn(reason, self.errors)
+
+    def test_a_file_that_cannot_be_read_ends_with_66_and_is_named(self):
+        macro = self.macro("MSG=a")
+        missing = str(self.folder / "fehlt")
+        for arguments in [[missing], [str(self.folder)], ["--desktop", missing, macro], ["--ini", missing, macro],
+                          ["--clipboard", missing, macro], ["--drive", missing, macro]]:
+            with self.subTest(arguments=arguments):
+                self.assertEqual(self.makrun(*arguments, status=66), [])
+                self.assertIn(arguments[-2] if arguments[0] == "--drive" else missing
+                              if missing in arguments else str(self.folder), self.errors)
+
+    def test_help_tells_the_options(self):
+        self.assertIn("--desktop FILE", "\n".join(self.makrun("--help")))
+
+    # --- options
+
+    def test_without_a_desktop_there_is_one_main_window(self):
+        macro = self.macro("IF ACTIVEWINDOW=4711", "MSG=ja", "ENDIF")
+        self.assertEqual(self.makrun(macro), ["MSG: ja", *COMPLETED])
+
+    def test_the_caption_can_be_chosen(self):
+        macro = self.macro("IF ACTIVEWINDOW=Müller", "MSG=ja", "ENDIF")
+        self.assertEqual(self.makrun("--caption", "TeRu - Müller", macro), ["MSG: ja", *COMPLETED])
+
+    def test_settings_are_those_beside_the_macro(self):
+        self.file("QUMAEXP.INI", "[MERLA]\r\nVersion=280\r\n")
+        macro = self.macro("DIM V", "V=READINI(MERLA,Version)", "MSG=V")
+        self.assertIn("MSG: 280", self.makrun(macro))
+
+    def test_settings_can_be_chosen(self):
+        self.file("QUMAEXP.INI", "[MERLA]\r\nVersion=280\r\n")
+        other = self.file("other.ini", "[MERLA]\r\nVersion=2100\r\n")
+        macro = self.macro("DIM V", "V=READINI(MERLA,Version)", "MSG=V")
+        self.assertIn("MSG: 2100", self.makrun("--ini", other, macro))
+
+    def test_a_drive_is_kept(self):
+        drive = self.folder / "drive"
+        drive.mkdir()
+        self.makrun("--drive", drive, self.macro("CREATEPROTOCOL=C:\\Protokoll.txt", "ADDPROTOCOL=Zeile", "CLOSEPROTOCOL"))
+        self.assertIn("Zeile", (drive / "Protokoll.txt").read_text("cp1252"))
+
+    def test_a_kept_drive_does_not_repeat_an_older_log(self):
+        drive = self.folder / "drive"
+        drive.mkdir()
+        macro = self.macro("MSG=a")
+        self.makrun("--drive", drive, macro)
+        self.assertEqual(self.makrun("--drive", drive, macro), ["MSG: a", *COMPLETED])
+
+    def test_the_macros_folder_stays_as_it_is(self):
+        macro = self.macro("MSG=a")
+        before = sorted(self.folder.iterdir())
+        self.makrun(macro)
+        self.assertEqual(sorted(self.folder.iterdir()), before)
+
+    def test_a_press_chooses_the_macro_by_the_caption_and_writes_the_run_header(self):
+        self.file("QUMAEXP.INI", "[Makro]\r\nMakro1='TeRu',test.mak\r\n")
+        self.assertEqual(
+            self.makrun("--press", self.macro("MSG=a")),
+            ["", STARS, "Tarven Datenexport wurde gestartet...", "Datum:14.03.2006 09:30:00", "MakroFile: test.mak",
+             "MSG: a", *COMPLETED])
+
+    def test_a_press_that_finds_no_macro_ends_with_1_and_shows_the_message(self):
+        self.makrun("--press", self.macro("MSG=a"), status=1)
+        self.assertIn("Die Steuerungsdatei kann nicht geladen werden.", self.errors)
+
+    CLIENT_INI = "[Makro]\r\nMakro1='TeRu',QUMAFIBU.MAK\r\n"
+
+    def client_macro(self):
+        self.file("QUMAEXP.INI", self.CLIENT_INI)
+        return self.macro("MSG=$PATH", name="QUMAFIBU.MAK")
+
+    def test_a_dialog_without_an_answer_is_confirmed(self):
+        log = self.makrun("--press", self.client_macro())
+        self.assertIn("Mandant:  4711 ", log)
+
+    def test_answers_fill_the_dialog(self):
+        log = self.makrun("--press", "--answer", "frmInputbox.txtMandant=0815", "--answer", "frmInputbox.txtJahr=2004",
+                          "--answer", "frmInputbox.cmdOK", self.client_macro())
+        self.assertIn("Mandant: 0815", log)
+        self.assertIn("Wirtschaftsjahr: 2004", log)
+
+    def test_a_cancelled_dialog_starts_no_run(self):
+        log = self.makrun("--press", "--answer", "frmInputbox.cmdCancel", self.client_macro(), status=2)
+        self.assertEqual(log[-1], "MakroFile: QUMAFIBU.MAK")
+        self.assertIn("the press started no run", self.errors)
+
+    def test_an_answer_to_a_control_that_is_not_there_is_a_wrong_command_line(self):
+        self.makrun("--press", "--answer", "frmInputbox.txtKonto=1", self.client_macro(), status=64)
+        self.assertIn("frmInputbox.txtKonto does not exist", self.errors)
+
+    def test_an_answer_that_nobody_asked_for_is_told(self):
+        self.makrun("--answer", "frmInputEST.cmdOK", self.macro("MSG=a"))
+        self.assertIn("the answer frmInputEST.cmdOK was not asked for", self.errors)
+
+    def test_the_clipboard_holds_the_file(self):
+        table = self.file("table.txt", "Größe\tb\r\n", "utf-8")
+        drive = self.folder / "drive"
+        drive.mkdir()
+        self.makrun("--clipboard", table, "--drive", drive, self.macro("SAVECLIPBOARD=C:\\t.csv"))
+        self.assertEqual((drive / "t.csv").read_bytes(), '"Größe";"b";\r\n'.encode("cp1252"))
+
+    def test_a_failed_run_is_resumed_so_often(self):
+        macro = self.macro("RAISEERROR=eins", "MSG=a", "RAISEERROR=zwei", "MSG=b")
+        self.assertEqual(self.makrun("--resume", 2, macro),
+                         ["eins", "<Cancel>", "MSG: a", "zwei", "<Cancel>", "MSG: b", *COMPLETED])
+        self.assertEqual(self.makrun("--resume", 1, macro, status=1), ["eins", "<Cancel>", "MSG: a", "zwei"])
+
+    def test_the_clock_can_be_set(self):
+        self.assertEqual(self.makrun("--now", "2004-02-29 23:59:58", self.macro("WAIT=3000", "MSG=$NOW")),
+                         ["MSG: 01.03.2004 00:00:01", *COMPLETED])
+
+    def test_the_family_can_be_chosen(self):
+        macro = self.macro("IF ISOSNT", "MSG=nt", "ELSE", "MSG=9x", "ENDIF")
+        self.assertEqual(self.makrun(macro), ["MSG: nt", *COMPLETED])
+        self.assertEqual(self.makrun("--family", "nt", macro), ["MSG: nt", *COMPLETED])
+        self.assertEqual(self.makrun("--family", "9x", macro), ["MSG: 9x", *COMPLETED])
+
+    def test_the_user_cancels_at_the_time_limit(self):
+        macro = self.macro("WAITFORWINDOW=kommt nie", "MSG=b")
+        self.assertEqual(self.makrun("--time-limit", 10, macro, status=2),
+                         ["<Cancel>", "Warten auf Fenster war erfolgreich.", *STOPPED])
+
+    def test_a_wait_that_cancel_does_not_end_is_given_up_with_its_line(self):
+        macro = self.macro("MSG=a", "WAITFORDIALOG=kommt,nie")
+        log = self.makrun(macro, status=2)
+        self.assertEqual(log, ["MSG: a", "WaitForDialog: kommt / nie", "<Cancel>"])
+        self.assertIn("line 2 (WAITFORDIALOG=kommt,nie)", self.errors)
+
+    def test_a_macro_that_passes_the_line_limit_is_given_up_with_its_line(self):
+        macro = self.macro("REM", "MARK=a", "GOTO=a")
+        self.makrun("--line-limit", 100, macro, status=2)
+        self.assertRegex(self.errors, r"line [23] \(.*\).*limit of 100 lines")
+
+    def test_real_time_sleeps(self):
+        macro = self.macro("WAIT=1500")
+        with self.assertRaises(subprocess.TimeoutExpired):
+            subprocess.run([str(MAKRUN), "--real-time", macro], timeout=1.2, capture_output=True)
+        self.assertEqual(self.makrun("--real-time", macro), COMPLETED)
+
+    def test_a_trace_shows_each_visited_line(self):
+        macro = self.macro("REM Kopf", "DIM A", "A=VALUE(x y)", "MSG=A,ü", "IF STRCOMP=1,2", "msg=$DATE", "ENDIF")
+        self.makrun("--trace", macro)
+        self.assertEqual(self.errors.splitlines(), [
+            "1: REM Kopf", "2: DIM A", '3: VALUE "x y"', '4: MSG "x y", "ü"', '5: IF STRCOMP "1", "2"',
+            '6: MSG "14.03.2006"', "7: ENDIF", "8: "])
+
+    # --- desktop files
+
+    def test_mistakes_of_a_desktop_file_are_reported_with_line_and_expectation(self):
+        window = 'window main "TeRu"\n'
+        for text, line, expected in [
+            ("\twindow main \"x\"", 1, "an indentation of blanks"),
+            ("  window main \"x\"", 1, "a first statement that is not indented"),
+            (window + "    at 1 2 3 4\n  hidden", 3, "the indentation of one of the lines above"),
+            ('window main "TeRu', 1, "a double quote at the end"),
+            ('window main "TeRu"x', 1, "a blank behind the text"),
+            ("window", 1, "a name and a text"),
+            ("window main", 1, "the window's title in double quotes"),
+            ("window main TeRu", 1, "the window's title in double quotes"),
+            ('window main "a" "b"', 1, 'the end of the line instead of "b"'),
+            (window + window, 2, "a name that no other window has"),
+            ("fenster", 1, "window, dialog, box, file, folder, registry or environment"),
+            (window + "  farbe rot", 2, "a property of the window"),
+            (window + "  at 1 2 3", 2, "left, top, width and height"),
+            (window + "  at 1 2 3 x", 2, "left, top, width and height"),
+            (window + "  control Button x", 2, "the control's id, a number"),
+            (window + "  control", 2, "a class, an id and a text"),
+            (window + "  control Button 1 OK", 2, "the control's text in double quotes"),
+            (window + "  control Button 1\n    style rund", 3, "checkbox, option, frame or single-selection"),
+            (window + "  control ComboBox 1\n    items a", 3, "the entries in double quotes"),
+            (window + "  control ComboBox 1\n    selected erster", 3, "the number of an entry"),
+            (window + "  control Button 1\n    class Button", 3, "a property of the window"),
+            (window + "  on klick 1\n    close main", 2, "command, notification, key, character, text or close"),
+            (window + "  on character a\n    close main", 2, "the code of the character"),
+            (window + "  on key F6\n    close main", 2, "the code of the key"),
+            (window + "  folder-to x", 2, "the id of a child"),
+            (window + "  control Button 1\n    folder-to 2", 3, "a property of the window"),
+            (window + "  on command 1\n    row main.1 a", 3, "the row's cells in double quotes"),
+            (window + "  on command 1\n    clear fehlt.1", 3, "the name of a window of this file, or NAME.ID"),
+            (window + "  on command", 2, "the id of the command"),
+            (window + "  on notification 1", 2, "the code of the notification"),
+            (window + "  on command 1", 2, "indented actions below this line"),
+            (window + "  on command 1\n    springe", 3, "one of the actions"),
+            (window + "  on command 1\n    open fehlt", 3, "the name of a window of this file"),
+            (window + "  on command 1\n    text fehlt.1 \"x\"", 3, "the name of a window of this file, or NAME.ID"),
+            (window + "  on command 1\n    text main.x \"x\"", 3, "the name of a window of this file, or NAME.ID"),
+            (window + "  on command 1\n    text main.1", 3, "the new text in double quotes"),
+            (window + "  on command 1\n    after bald\n      close main", 3, "milliseconds"),
+            (window + "  on command 1\n    after 1", 3, "indented actions below this line"),
+            (window + "  on command 1\n    close main\n      close main", 4, 'nothing below "close"'),
+            (window + "  on command 1\n    when main.1 offen\n      close main", 3, "selected and a number"),
+            (window + '  on command 1\n    grow "C:\\x" -1', 3, "the bytes by which the file grows"),
+            (window + "  hidden\n    hidden", 3, 'nothing below "hidden"'),
+            ('file', 1, "the file's path"),
+            ('file "C:\\x" y', 1, "the file's lines in double quotes"),
+            ('file "C:\\x"\n  hidden', 2, 'nothing below "file"'),
+            ('file "Q:\\x" "y"', 1, "a path of a drive that there is"),
+            ('folder "Q:\\x"', 1, "a path of a drive that there is"),
+            ('registry "a" "b"', 1, "the value's text"),
+            ('environment "a"', 1, "the variable's text"),
+            ('box hint "a"', 1, "the box's text"),
+            ('box hint "a" "b" OK', 1, "the captions of the buttons"),
+        ]:
+            with self.subTest(text=text):
+                arguments = self.desktop(text)
+                self.assertEqual(self.makrun(*arguments, self.macro("MSG=a"), status=66), [])
+                self.assertTrue(self.errors.startswith(f"makrun: {arguments[1]}:{line}: expected "), self.errors)
+                self.assertIn(expected, self.errors)
+
+    def test_the_first_window_is_in_front(self):
+        arguments = self.desktop('# Kommentar\n\nwindow one "Eins ""A"""\nwindow two "Zwei"\n')
+        log = self.makrun(*arguments, self.macro('IF ACTIVEWINDOW=Eins', "MSG=vorn", "ENDIF"))
+        self.assertEqual(log, ["MSG: vorn", *COMPLETED])
+
+    def test_controls_lists_and_reactions(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  control ThunderRT6Frame 1 "Rahmen"\n'
+            '    control Button 2 "Haken"\n'
+            '      style checkbox\n'
+            '    control ComboBox 3\n'
+            '      items "rot" "grün"\n'
+            '    on notification 3 1\n'
+            '      when main.3 selected 1\n'
+            '        text main.5 "{main.6} gewählt"\n'
+            '  control SysListView32 4\n'
+            '    row "1" "eins"\n'
+            '    row "2" "zwei"\n'
+            '  control ThunderRT6Textbox 5 "alt"\n'
+            '    on text\n'
+            '      check main.2\n'
+            '  control ThunderRT6Textbox 6 "fest"\n'
+            '    refuses-text\n')
+        log = self.makrun(*arguments, self.macro(
+            "SELECTCOMBO=grün,3,TeRu,1", "GETTEXT=fest gewählt,5,TeRu,1", "SETTEXT=neu,5,TeRu,1",
+            "GETCHECK=2,TeRu,1,Button,1,ThunderRT6Frame", "SETTEXT=fest,6,TeRu,1", "READLISTITEM=2,4,TeRu,1"))
+        self.assertEqual(log[-8:], [
+            "Die Auswahl der Combobox konnte erfolgreich ausgeführt werden. Sel: grün",
+            "Das Textfeld konnte nicht gelesen werden. (fest gewählt)",
+            "Das Textfeld wurde ausgefüllt (neu)", "Optionsfeld ist ausgewählt.", "Das Textfeld wurde ausgefüllt (fest)",
+            "Der Wert 2 wurde in der Liste gefunden.", *COMPLETED])
+
+    def test_a_box_is_answered_and_a_file_grows(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  on command 7\n'
+            '    write "C:\\export.csv" "a"\n'
+            '    after 2500\n'
+            '      grow "C:\\export.csv" 10\n'
+            '    after 4500\n'
+            '      append "C:\\export.csv" "b"\n'
+            '    open question\n'
+            'box question "Frage" "Überschreiben?" "Ja" "Nein"\n'
+            '  on command 6\n'
+            '    text main "TeRu ja"\n')
+        log = self.makrun(*arguments, self.macro(
+            "MENUCLICK=7,TeRu,1", "WAITFORDIALOG=Frage,überschreiben", "WAITFORFILE=C:\\export.csv",
+            "IF ACTIVEWINDOW=TeRu ja", "MSG=ja", "ENDIF"))
+        self.assertEqual(log[1:], [
+            "WaitForDialog: Frage / überschreiben", "Dialog Frage / Überschreiben? wurde mit Ja bestätigt.",
+            "Datei wird eingelesen (3) ", "Datei wird eingelesen (13) ", "Datei wird eingelesen (16) ", "MSG: ja",
+            *COMPLETED])
+
+    def test_a_list_is_filled_and_selected_by_its_key_and_shows_its_rows(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  control SysListView32 4\n'
+            '    row "alt" "0"\n'
+            '    on character 1\n'
+            '      select-all main.4\n'
+            '  on command 1\n'
+            '    clear main.4\n'
+            '    row main.4 "eins" "1"\n'
+            '    row main.4 "zwei" "2"\n'
+            '  on command 2\n'
+            '    clipboard "{main.4}"\n'
+            '    write "C:\\t.txt" "{main.4}"\n')
+        drive = self.folder / "drive"
+        drive.mkdir()
+        log = self.makrun(*arguments, "--drive", drive, self.macro(
+            "MENUCLICK=1,TeRu,1", "SELECTALL=4,TeRu,1", "MENUCLICK=2,TeRu,1", "WAITFORCLIPBOARD"))
+        self.assertIn("Die Liste wurde ausgewählt (2)", log)
+        self.assertIn("Die Zwischenablage wurde gefüllt.", log)
+        self.assertEqual((drive / "t.txt").read_bytes(), b"eins\t1\r\nzwei\t2\r\n")
+
+    def test_a_key_reaches_a_list_and_a_cell_of_its_selected_row_is_used(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  control SysListView32 4\n'
+            '    row "eins" "1"\n'
+            '    row "zwei" "2"\n'
+            '    on key 117\n'
+            '      text main.5 "{main.4/1}+{main.4/2}+{main.4/x}+{fehlt.4/1}."\n'
+            '  control ThunderRT6Textbox 5\n')
+        log = self.makrun(*arguments, self.macro(
+            "DIM A", "SENDKEY2={F6},4,TeRu,SysListView32", "A=READTEXT(5,TeRu,1,ThunderRT6Textbox)",
+            "SELECTLIST=4,TeRu,1", "SELECTLIST=4,TeRu,1", "SENDKEY2={F6},4,TeRu,SysListView32",
+            "A=READTEXT(5,TeRu,1,ThunderRT6Textbox)"))
+        texts = [line for line in log if line.startswith("ReadText")]
+        self.assertEqual(texts, ["ReadText: +++.", "ReadText: 1+++."])
+
+    def test_a_folder_browser_takes_the_path(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  control ThunderRT6Textbox 5\n'
+            'window browser "Ordner"\n'
+            '  folder-to 7\n'
+            '  control Static 7 "C:\\"\n'
+            '  on command 1\n'
+            '    text main.5 "{browser.7}"\n'
+            '    close browser\n')
+        log = self.makrun(*arguments, self.macro(
+            "DIM A", "SETFOLDERPATH=Ordner,1,C:\\Größe", "MENUCLICK=1,Ordner,1", "WAIT=1",
+            "A=READTEXT(5,TeRu,1,ThunderRT6Textbox)"))
+        self.assertIn("ReadText: C:\\Größe", log)
+
+    def test_a_combo_box_shows_the_entry_that_is_selected(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  control ComboBox 3\n'
+            '    items "rot" "grün"\n'
+            '    selected 1\n'
+            '  control ThunderRT6Textbox 5\n'
+            '  on command 1\n'
+            '    text main.5 "{main.3}"\n'
+            '    items main.3 "blau" "gelb"\n'
+            '    text main.5 "{main.5}-{main.3}"\n'
+            '    select main.3 1\n'
+            '    text main.5 "{main.5}-{main.3}" "Zeile"\n')
+        log = self.makrun(*arguments, self.macro(
+            "DIM A", "MENUCLICK=1,TeRu,1", "WAIT=1", "A=READTEXT(5,TeRu,1,ThunderRT6Textbox)"))
+        self.assertEqual(log[-4:], ["ReadText: grün--gelb", "Zeile", *COMPLETED])
+
+    def test_an_action_that_cannot_make_its_file_ends_with_66_and_names_the_file(self):
+        arguments = self.desktop('window main "TeRu"\n  on command 7\n    write "Q:\\Größe.csv" "a"\n')
+        self.makrun(*arguments, self.macro("MENUCLICK=7,TeRu,1", "WAIT=10"), status=66)
+        self.assertIn("Q:\\Größe.csv cannot be made", self.errors)
+
+    # --- the documented example
+
+    def test_the_example_of_the_documentation_prints_its_log(self):
+        text = (ROOT / "docs" / "makrun.md").read_text()
+        blocks = dict(re.findall(r"^```(desktop|macro|log)\n(.*?)^```$", text, re.M | re.S))
+        desktop = self.file("export.desktop", blocks["desktop"], "utf-8")
+        macro = self.macro(*blocks["macro"].splitlines(), name="export.mak")
+        self.assertEqual(self.makrun("--desktop", desktop, macro), blocks["log"].splitlines())
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,228 @@
+#include "desktop_file.h"
+
+#include <map>
+#include <set>
+
+#include "actions.h"
+#include "arguments.h"
+#include "desktop_text.h"
+#include "files.h"
+#include "platform/messages.h"
+#include "platform/registry.h"
+#include "platform/simulated/desktop.h"
+#include "platform/simulated/host_paths.h"
+#include "rehearse.h"
+#include "scene.h"
+
+namespace makrun {
+namespace {
+
+namespace simulated = platform::simulated;
+using simulated::Message;
+
+class Loader {
+ public:
+  explicit Loader(const std::string& path) : path_(path), actions_(path, names_) {}
+
+  void Load() {
+    scene = {};
+    const std::vector<Statement> statements = ReadStatements(path_);
+    for (const Statement& statement : statements) CollectName(statement);
+    for (const Statement& statement : statements) ReadTopLevel(statement);
+    // The file lists the windows from the top down.
+    for (auto name = open_.rbegin(); name != open_.rend(); ++name) scene.Open(*name);
+  }
+
+ private:
+  // Names are known before anything refers to them.
+  void CollectName(const Statement& statement) {
+    const std::string& word = statement.words[0].text;
+    if (word != "window" && word != "dialog" && word != "box") return;
+    Arguments arguments(path_, statement);
+    if (!names_.insert(arguments.Name("a name and a text behind " + word)).second)
+      arguments.Mistake("a name that no other window has");
+  }
+
+  // What stands on the drives from the start.
+  template <class Operation>
+  static void PutStanding(const Arguments& arguments, Operation&& operation) {
+    try {
+      operation();
+    } catch (const FileError& error) {
+      arguments.Mistake("a path of a drive that there is; " + error.text);
+    }
+  }
+
+  void ReadTopLevel(const Statement& statement) {
+    const std::string& word = statement.words[0].text;
+    Arguments arguments(path_, statement);
+    if (word == "window" || word == "dialog") {
+      const std::string name = arguments.Name("a name");
+      WindowPlan& plan = scene.plans[name];
+      plan.window.className = word == "window" ? "ThunderRT6FormDC" : "#32770";
+      plan.window.text = arguments.Text("the window's title in double quotes");
+      arguments.End();
+      ReadWindow(statement, plan, true);
+      if (word == "window") open_.push_back(name);
+      return;
+    }
+    if (word == "box") {
+      ReadBox(statement, arguments);
+      return;
+    }
+    if (!statement.inner.empty()) RaiseMistake(path_, statement.inner[0].line, "nothing below \"" + word + "\"");
+    if (word == "file") {
+      const std::string& path = arguments.Text("the file's path in double quotes");
+      PutStanding(arguments, [&, text = LinesText(arguments.Texts("the file's lines in double quotes"))] {
+        PutSimulatedFile(path, text);
+      });
+    } else if (word == "folder") {
+      PutStanding(arguments,
+                  [&, path = arguments.Text("the folder's path in double quotes")] { MakeSimulatedFolder(path); });
+    } else if (word == "registry") {
+      const std::string& key = arguments.Text("a key of the registry in double quotes");
+      const std::string& value = arguments.Text("the value's name in double quotes");
+      simulated::Registry()[key][value] = {platform::REG_SZ,
+                                           arguments.Text("the value's text in double quotes") + std::string(1, '\0')};
+    } else if (word == "environment") {
+      const std::string& name = arguments.Text("the variable's name in double quotes");
+      simulated::SetEnvironmentVariable(name, arguments.Text("the variable's text in double quotes"));
+    } else {
+      arguments.Mistake("window, dialog, box, file, folder, registry or environment instead of \"" + word + "\"");
+    }
+    arguments.End();
+  }
+
+  // Title, text and buttons; a command closes it.
+  void ReadBox(const Statement& statement, Arguments& arguments) {
+    WindowPlan& plan = scene.plans[arguments.Name("a name")];
+    plan.window.className = "#32770";
+    plan.window.text = arguments.Text("the box's title in double quotes");
+    plan.closesOnCommand = true;
+    WindowPlan text;
+    text.window.className = "Static";
+    text.window.text = arguments.Text("the box's text in double quotes");
+    text.window.id = 65535;
+    plan.controls.push_back(text);
+    const std::map<std::string, std::int32_t> ids = {{"OK", 1}, {"Abbrechen", 2}, {"Ja", 6}, {"Nein", 7}};
+    for (const std::string& caption : arguments.Texts("the captions of the buttons in double quotes")) {
+      const auto id = ids.find(caption);
+      WindowPlan button;
+      button.window.className = "Button";
+      button.window.text = caption;
+      button.window.id = id == ids.end() ? 100 + static_cast<std::int32_t>(plan.controls.size()) : id->second;
+      plan.controls.push_back(button);
+    }
+    ReadWindow(statement, plan, true);
+  }
+
+  // What stands below a window or a control.
+  void ReadWindow(const Statement& statement, WindowPlan& plan, bool topLevel) {
+    for (const Statement& inner : statement.inner) {
+      Arguments arguments(path_, inner);
+      const std::string& word = inner.words[0].text;
+      if (word == "control") {
+        ReadControl(inner, arguments, plan);
+      } else if (word == "on") {
+        ReadReaction(inner, arguments, plan);
+      } else {
+        if (!inner.inner.empty()) RaiseMistake(path_, inner.inner[0].line, "nothing below \"" + word + "\"");
+        ReadProperty(word, arguments, plan, topLevel);
+        arguments.End();
+      }
+    }
+  }
+
+  void ReadControl(const Statement& statement, Arguments& arguments, WindowPlan& parent) {
+    WindowPlan plan;
+    plan.window.className = arguments.Name("a class, an id and a text");
+    plan.window.id = arguments.Number("the control's id, a number");
+    if (arguments.More()) plan.window.text = arguments.Text("the control's text in double quotes");
+    arguments.End();
+    ReadWindow(statement, plan, false);
+    parent.controls.push_back(std::move(plan));
+  }
+
+  void ReadProperty(const std::string& word, Arguments& arguments, WindowPlan& plan, bool topLevel) {
+    simulated::Window& window = plan.window;
+    if (word == "class" && topLevel) window.className = arguments.Name("a class");
+    else if (word == "id" && topLevel) window.id = arguments.Number("an id, a number");
+    else if (word == "process" && topLevel) window.process = ProcessOf(arguments.Name("the name of a process"));
+    else if (word == "folder-to" && topLevel) plan.folderControl = arguments.Number("the id of a child");
+    else if (word == "at") ReadPlace(arguments, window.rectangle);
+    else if (word == "hidden") window.visible = false;
+    else if (word == "disabled") window.enabled = false;
+    else if (word == "checked") window.check = 1;
+    else if (word == "style") window.style = StyleOf(arguments);
+    else if (word == "items") window.entries = arguments.Texts("the entries in double quotes");
+    else if (word == "selected") window.selection = arguments.Number("the number of an entry, from 0");
+    else if (word == "row") window.rows.push_back({arguments.Texts("the row's cells in double quotes"), 0});
+    else if (word == "marked") window.selectionMark = arguments.Number("the number of a row, from 0");
+    else if (word == "by-parameter") window.rowFromParameter = true;
+    else if (word == "refuses-text") plan.refusesText = true;
+    else arguments.Mistake("a property of the window, a control or a reaction instead of \"" + word + "\"");
+  }
+
+  static void ReadPlace(Arguments& arguments, platform::Rect& place) {
+    const std::string expected = "left, top, width and height in pixels";
+    place.left = arguments.Number(expected);
+    place.top = arguments.Number(expected);
+    place.right = place.left + arguments.Number(expected);
+    place.bottom = place.top + arguments.Number(expected);
+  }
+
+  static std::uint32_t StyleOf(Arguments& arguments) {
+    const std::map<std::string, std::uint32_t> styles = {{"checkbox", simulated::BS_AUTOCHECKBOX},
+                                                         {"option", simulated::BS_AUTORADIOBUTTON},
+                                                         {"frame", simulated::BS_GROUPBOX},
+                                                         {"single-selection", simulated::LVS_SINGLESEL}};
+    const std::string expected = "checkbox, option, frame or single-selection";
+    const auto style = styles.find(arguments.Name(expected));
+    if (style == styles.end()) arguments.Mistake(expected);
+    return style->second;
+  }
+
+  // Windows that name the same process belong together.
+  std::uint32_t ProcessOf(const std::string& name) {
+    constexpr std::uint32_t kFirst = 5000;
+    return processes_.try_emplace(name, kFirst + static_cast<std::uint32_t>(processes_.size())).first->second;
+  }
+
+  void ReadReaction(const Statement& statement, Arguments& arguments, WindowPlan& plan) {
+    const std::string expected = "command, notification, key, character, text or close";
+    const std::string& event = arguments.Name(expected);
+    Reaction reaction;
+    if (event == "command" || event == "notification") {
+      const std::int32_t id = arguments.Number("the id of the command, a number");
+      const std::int32_t code = event == "command" ? 0 : arguments.Number("the code of the notification, a number");
+      reaction.wanted = [=](const Message& message) {
+        return message.number == platform::WM_COMMAND && message.wParam == code * 65536 + (id & 0xFFFF);
+      };
+    } else if (event == "key" || event == "character") {
+      const std::uint32_t number = event == "key" ? platform::WM_KEYDOWN : platform::WM_CHAR;
+      const std::int32_t code = arguments.Number("the code of the " + event + ", a number");
+      reaction.wanted = [=](const Message& message) { return message.number == number && message.wParam == code; };
+    } else if (event == "text" || event == "close") {
+      const std::uint32_t number = event == "text" ? platform::WM_SETTEXT : platform::WM_CLOSE;
+      if (event == "close") plan.staysOnClose = true;
+      reaction.wanted = [=](const Message& message) { return message.number == number; };
+    } else {
+      arguments.Mistake(expected + " instead of \"" + event + "\"");
+    }
+    arguments.End();
+    reaction.actions = actions_.Read(statement);
+    plan.reactions.push_back(std::move(reaction));
+  }
+
+  const std::string& path_;
+  std::set<std::string> names_;
+  ActionReader actions_;
+  std::vector<std::string> open_;
+  std::map<std::string, std::uint32_t> processes_;
+};
+
+}  // namespace
+
+void LoadDesktopFile(const std::string& path) { Loader(path).Load(); }
+
+}  // namespace makrun

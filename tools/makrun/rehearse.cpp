@@ -1,0 +1,168 @@
+#include "rehearse.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "desktop_file.h"
+#include "dialog_answers.h"
+#include "engine/line_watch.h"
+#include "engine/macro_file.h"
+#include "engine/run_loop.h"
+#include "engine/state.h"
+#include "environment/window_order.h"
+#include "files.h"
+#include "forms/simulated/user.h"
+#include "frame/frmStatus.h"
+#include "frame/log.h"
+#include "frame/state.h"
+#include "platform/messages.h"
+#include "platform/shell.h"
+#include "platform/simulated/desktop.h"
+#include "platform/simulated/host_paths.h"
+#include "platform/system.h"
+#include "rehearsal.h"
+#include "trace.h"
+
+namespace makrun {
+namespace {
+
+namespace fs = std::filesystem;
+namespace simulated = platform::simulated;
+using basMain::run;
+using rehearsal::kProgram;
+
+// How long a wait may take to notice that the user has cancelled, in simulated seconds.
+constexpr std::int32_t kGrace = 60;
+
+struct LineLimitPassed {};
+
+void PrepareSystem(const Options& options) {
+  if (!options.drive.empty()) {
+    std::error_code error;
+    if (!fs::is_directory(options.drive, error)) throw FileError{options.drive + " is no folder"};
+    simulated::SetDrive('C', options.drive);
+    simulated::SetApplicationPath(kProgram);
+  }
+  simulated::SetNow(options.now);
+  if (!options.nt) simulated::SetVersion(platform::VER_PLATFORM_WIN32_WINDOWS, 4, 10);
+  simulated::SetRealTime(options.realTime);
+}
+
+// The files beside the macro stand in the program's folder, as copies: a rehearsal leaves the macro's folder as it is.
+void FillProgramFolder(const Options& options) {
+  const fs::path macro(options.macro);
+  const fs::path beside = macro.has_parent_path() ? macro.parent_path() : fs::path(".");
+  const fs::path program(simulated::HostPath(kProgram));
+  ReadHostFile(options.macro);  // says why it cannot be read
+  std::error_code error;
+  if (!fs::equivalent(beside, program, error)) {
+    for (const auto& entry : fs::directory_iterator(beside, error)) {
+      if (!entry.is_regular_file() || entry.path().filename() == "QUMAEXP.LOG") continue;
+      fs::copy_file(entry.path(), program / entry.path().filename(), fs::copy_options::overwrite_existing, error);
+      if (error) throw FileError{entry.path().string() + " cannot be copied: " + error.message()};
+    }
+  }
+  if (!options.ini.empty()) simulated::PutFile(kProgram + "\\QUMAEXP.INI", ReadHostFile(options.ini));
+}
+
+void PrepareDesktop(const Options& options) {
+  if (!options.desktop.empty()) LoadDesktopFile(options.desktop);
+  else
+    simulated::Activate(simulated::AddWindow({.className = "ThunderRT6FormDC", .text = ProgramText(options.caption)}));
+  if (!options.clipboard.empty()) simulated::Clipboard() = ProgramText(ReadHostFile(options.clipboard));
+}
+
+// The user loses patience; a wait that does not look at the cancel is then cut off.
+void LimitTime(std::int32_t seconds) {
+  simulated::Schedule(seconds * 1000, [] {
+    const std::int32_t button = basMain::frmStatus.cmdCancel.now.handle;
+    if (button != 0) platform::PostMessageA(button, platform::BM_CLICK, 0, 0);
+  });
+  simulated::SetTimeLimit((std::int64_t{seconds} + kGrace) * 1000);
+}
+
+void Watch(const Options& options, Trace& trace, std::int64_t& visited) {
+  basMain::lineWatch.Visited = [&](std::int32_t index, const std::string& line) {
+    if (++visited > options.lineLimit) throw LineLimitPassed{};
+    if (options.trace) trace.Visited(index, line);
+  };
+  if (options.trace) {
+    basMain::lineWatch.Parsed = [&](const std::string& verb, const basMain::Arguments& a) { trace.Parsed(verb, a); };
+  }
+}
+
+// What the hot key does behind the choice of the macro.
+bool RunDirectly(const std::string& macro) {
+  basMain::frame.MainWindow = simulated::Foreground();
+  basMain::frame.MakroFile = macro;
+  basAPI::SetTopMost(basMain::frmStatus.hWnd());
+  basMain::frmStatus.Show();
+  basMain::LoadFile(kProgram + "\\" + macro);
+  return basMain::ProcessMakro(0);
+}
+
+bool RunByHotKey() {
+  simulated::PressHotKey(platform::MOD_ALT, platform::VK_F12);
+  forms::Pump();
+  return !run.RunFailed;
+}
+
+Outcome Perform(const Options& options, const std::string& macro) {
+  bool good = options.press ? RunByHotKey() : RunDirectly(macro);
+  for (int i = 0; i < options.resumes && !good && !run.StopRun; ++i) {
+    forms::simulated::Press(basMain::frmStatus.cmdResume);
+    good = !run.RunFailed;
+  }
+  if (run.StopRun) return Outcome::Stopped;
+  return good ? Outcome::Completed : Outcome::Failed;
+}
+
+void GiveUp(Rehearsal& rehearsal, const std::string& why) {
+  const auto index = static_cast<std::size_t>(run.CurrentLine);
+  const std::string line = index < run.MakroLines.size() ? run.MakroLines[index] : "";
+  rehearsal.outcome = Outcome::Stopped;
+  rehearsal.reason = "given up: line " + std::to_string(run.CurrentLine + 1) + " (" + line + ") " + why;
+}
+
+}  // namespace
+
+Rehearsal Rehearse(const Options& options) {
+  const std::string macro = ProgramText(fs::path(options.macro).filename().string());
+  const rehearsal::FreshSystem system;
+  PrepareSystem(options);
+  FillProgramFolder(options);
+  PrepareDesktop(options);
+  rehearsal::StartProgram();
+  const std::size_t older = rehearsal::LinesOf(basMain::LogFile()).size();
+  DialogAnswers answers(options.answers);
+  LimitTime(options.timeLimit);
+  Trace trace;
+  std::int64_t visited = 0;
+  Watch(options, trace, visited);
+
+  Rehearsal result;
+  try {
+    result.outcome = Perform(options, macro);
+    if (result.outcome == Outcome::Failed) result.reason = run.LastError;
+    if (visited == 0) {
+      result.outcome = simulated::MessageBoxes().empty() ? Outcome::Stopped : Outcome::Failed;
+      result.reason = "the press started no run";
+    }
+  } catch (const simulated::TimeLimitPassed&) {
+    GiveUp(result,
+           "went on waiting although the user had cancelled after " + std::to_string(options.timeLimit) + " seconds");
+  } catch (const LineLimitPassed&) {
+    GiveUp(result, "passed the limit of " + std::to_string(options.lineLimit) + " lines");
+  } catch (const DialogStays& dialog) {
+    GiveUp(result, "shows " + dialog.form + ", which stays open whatever is answered");
+  }
+  trace.Finish();
+  auto lines = rehearsal::LinesOf(basMain::LogFile());
+  result.log.assign(lines.begin() + static_cast<std::ptrdiff_t>(std::min(older, lines.size())), lines.end());
+  for (const auto& box : simulated::MessageBoxes()) result.notes.push_back("message box: " + box.text);
+  for (const Answer& answer : answers.Left())
+    result.notes.push_back("the answer " + answer.form + "." + answer.control + " was not asked for");
+  return result;
+}
+
+}  // namespace makrun

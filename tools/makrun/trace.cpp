@@ -1,0 +1,34 @@
+#include "trace.h"
+
+#include <cstdio>
+
+#include "platform/simulated/host_paths.h"
+
+namespace makrun {
+namespace {
+
+void Print(const std::string& line) { std::fprintf(stderr, "%s\n", platform::simulated::ToUtf8(line).c_str()); }
+
+}  // namespace
+
+void Trace::Visited(std::int32_t index, const std::string& line) {
+  Finish();
+  number_ = std::to_string(index + 1) + ": ";
+  pending_ = number_ + line;
+}
+
+void Trace::Parsed(const std::string& verb, const basMain::Arguments& a) {
+  pending_.clear();
+  std::size_t count = a.size();
+  while (count > 1 && a[count - 1].empty()) --count;
+  std::string line = number_ + verb;
+  for (std::size_t i = 1; i < count; ++i) line += (i == 1 ? " \"" : ", \"") + a[i] + "\"";
+  Print(line);
+}
+
+void Trace::Finish() {
+  if (!pending_.empty()) Print(pending_);
+  pending_.clear();
+}
+
+}  // namespace makrun
