@@ -325,10 +325,12 @@ MSG=falscher Zweig
 ELSE
 MSG=gestartet über einem anderen Fenster
 ENDIF
+WAIT=1000
 SETFOCUS=
 IF ACTIVEWINDOW={RECORD},TRUE
 MSG=der Dialog ist vorn
 ENDIF
+WAIT=1000
 SETFOCUS={RECORD}
 SETFOCUSCTL={TEXT_BOX},,{PLACE}
 SELECTALL={PARTNERS},{RECORD},1
@@ -350,7 +352,8 @@ SETFOCUSCTL=
                 "MSG: gestartet über einem anderen Fenster",
                 "Der Fokus wurde gesetzt.",
                 "MSG: der Dialog ist vorn",
-                # The status dialog, which has been hidden and shown, is in front again.
+                # The status dialog, which has been hidden and shown, comes to the front again some time later: hence the
+                # waits before the focus is set.
                 "Der Fokus wurde gesetzt.",
                 f"Der Fokus wurde auf das Feld gesetzt. ({place})",
                 "Die Liste wurde ausgewählt (5)",
