@@ -2,7 +2,6 @@
 
 #include <limits>
 
-#include "environment/paths.h"
 #include "runtime/fault.h"
 
 namespace basMain {
@@ -38,14 +37,20 @@ std::vector<std::string> FilesThatFit(const std::string& pattern) {
 
 enum class FollowLinks { No, Yes };
 
-// Adds all that a folder holds, each folder in front of its content; names begin with a backslash and lead from the
-// folder. A link that leads back to itself ends as a path that is too long.
-void AddTree(const std::string& folder, const std::string& below, FollowLinks follow, std::vector<FoundFile>& tree) {
-  for (FoundFile& found : platform::FindFiles(folder + below + "*")) {
-    found.cFileName = below + found.cFileName;
+// What stands in front of a name in the folder. "C:" means the present folder of its drive and takes no backslash; two
+// at the start would lead into the network.
+std::string Inside(const std::string& folder) {
+  return folder.ends_with('\\') || folder.ends_with(':') ? folder : folder + "\\";
+}
+
+// Adds all that a folder holds by its path, each folder in front of its content. A link that leads back to itself ends
+// as a path that is too long.
+void AddTree(const std::string& inside, FollowLinks follow, std::vector<FoundFile>& tree) {
+  for (FoundFile& found : platform::FindFiles(inside + "*")) {
+    found.cFileName.insert(0, inside);
     tree.push_back(found);
     if (IsFolder(found) && (!IsLink(found) || follow == FollowLinks::Yes))
-      AddTree(folder, found.cFileName + "\\", follow, tree);
+      AddTree(Inside(found.cFileName), follow, tree);
   }
 }
 
@@ -124,8 +129,8 @@ std::unique_ptr<TextStream> FileSystemObject::OpenToAppend(const std::string& pa
 std::vector<FolderFile> FileSystemObject::FilesOf(const std::string& folder) const {
   if (folder.empty()) throw Fault(FaultNumber::PathNotFound);
   std::vector<FolderFile> files;
-  for (const FoundFile& found : platform::FindFiles(basAPI::JoinPath(folder, "*")))
-    if (!IsFolder(found)) files.push_back({found.cFileName, basAPI::JoinPath(folder, found.cFileName)});
+  for (const FoundFile& found : platform::FindFiles(Inside(folder) + "*"))
+    if (!IsFolder(found)) files.push_back({found.cFileName, Inside(folder) + found.cFileName});
   return files;
 }
 
@@ -143,21 +148,22 @@ void FileSystemObject::DeleteFolder(const std::string& folder) const {
   const std::string path = WithoutSeparator(folder);
   auto tree = platform::FindFiles(path);
   if (tree.empty()) throw Fault(FaultNumber::PathNotFound);
-  tree.front().cFileName.clear();
-  if (!IsLink(tree.front())) AddTree(path, "\\", FollowLinks::No, tree);
+  tree.front().cFileName = path;
+  if (!IsLink(tree.front())) AddTree(Inside(path), FollowLinks::No, tree);
   for (const FoundFile& entry : tree)
-    if (IsReadOnly(entry)) platform::SetFileAttributesA(path + entry.cFileName, platform::FILE_ATTRIBUTE_NORMAL);
+    if (IsReadOnly(entry)) platform::SetFileAttributesA(entry.cFileName, platform::FILE_ATTRIBUTE_NORMAL);
   for (auto entry = tree.rbegin(); entry != tree.rend(); ++entry) {
-    if (IsFolder(*entry)) platform::RemoveDirectoryA(path + entry->cFileName);
-    else platform::DeleteFileA(path + entry->cFileName);
+    if (IsFolder(*entry)) platform::RemoveDirectoryA(entry->cFileName);
+    else platform::DeleteFileA(entry->cFileName);
   }
 }
 
 void FileSystemObject::CopyFile(const std::string& source, const std::string& destination) const {
+  if (destination.empty()) throw Fault(FaultNumber::PathNotFound);
   const bool pattern = source.find_first_of("*?") != std::string::npos;
   const bool intoFolder = pattern || destination.ends_with('\\');
   for (const std::string& name : FilesThatFit(source))
-    platform::CopyFileA(FolderPart(source) + name, intoFolder ? destination + "\\" + name : destination, false);
+    platform::CopyFileA(FolderPart(source) + name, intoFolder ? Inside(destination) + name : destination, false);
 }
 
 void FileSystemObject::CopyFolder(const std::string& source, const std::string& destination) const {
@@ -165,11 +171,12 @@ void FileSystemObject::CopyFolder(const std::string& source, const std::string& 
   const std::string to = destination.ends_with('\\') ? destination + from.substr(FolderPart(from).size()) : destination;
   // Listed before the first copy is made, so that a destination inside the source comes to an end.
   std::vector<FoundFile> tree;
-  AddTree(from, "\\", FollowLinks::Yes, tree);
+  AddTree(Inside(from), FollowLinks::Yes, tree);
   MakeFolder(to);
   for (const FoundFile& entry : tree) {
-    if (IsFolder(entry)) MakeFolder(to + entry.cFileName);
-    else platform::CopyFileA(from + entry.cFileName, to + entry.cFileName, false);
+    const std::string target = Inside(to) + entry.cFileName.substr(Inside(from).size());
+    if (IsFolder(entry)) MakeFolder(target);
+    else platform::CopyFileA(entry.cFileName, target, false);
   }
 }
 

@@ -84,7 +84,7 @@ class FileSystemObject {
 
   // Copies the files that fit the source, whose last name may hold * and ?, over existing ones. The destination is a
   // folder that must exist when it ends in a backslash or the source is a pattern, else the new file's path; a folder's
-  // path is then refused. Faults: FileNotFound when no file fits.
+  // path is then refused. Faults: FileNotFound when no file fits, PathNotFound for an empty destination.
   void CopyFile(const std::string& source, const std::string& destination) const;
 
   // Copies a folder with all that it holds at this moment over the destination: merges folders, replaces files. A

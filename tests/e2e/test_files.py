@@ -119,6 +119,14 @@ class FilesTest(EndToEndTest):
         self.run_macro(f"RENAMEPATH={DATA}\\fehlt,{DATA}\\ziel")
         self.assertEqual(self.names(), [])
 
+    def test_without_a_confirmed_client_a_copy_below_the_fibu_path_goes_to_the_root(self):
+        self.put("a.txt")
+        copy = self.desktop.host_path("C:\\a.txt")
+        self.addCleanup(copy.unlink, missing_ok=True)
+        log = self.run_macro(f"COPYFILE={DATA}\\a.txt,$FIBUPATH\\")
+        self.assertEqual(log[-2:], [f"{MADE}\\", f"CopyFile {DATA}\\a.txt To \\"])
+        self.assertTrue(copy.exists())
+
     # What the system refuses
 
     def test_a_missing_source_fails_with_its_number(self):

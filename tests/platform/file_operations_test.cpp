@@ -79,6 +79,17 @@ TEST_F(FileOperations, AttributesOfWhatIsMissing) {
   EXPECT_EQ(FaultOf([] { SetReadOnly(Path("fehlt\\a.txt")); }), FaultNumber::PathNotFound);
 }
 
+TEST_F(FileOperations, DriveAloneIsItsPresentFolder) {
+  const std::string folder = platform::CurrentDirectory();
+  EXPECT_EQ(NamesOf(folder.substr(0, 2) + "*"), NamesOf(folder + (folder.ends_with('\\') ? "*" : "\\*")));
+}
+
+TEST_F(FileOperations, OneSeparatorAtTheStartIsTheDriveAndTwoLeadOffIt) {
+  contract::WriteWhole(Path("a.txt"), "a");
+  EXPECT_EQ(NamesOf("\\*"), NamesOf(platform::CurrentDirectory().substr(0, 2) + "\\*"));
+  FaultOf([] { platform::CopyFileA(Path("a.txt"), "\\\\a.txt", true); });
+}
+
 // Deleting.
 
 TEST_F(FileOperations, FileIsDeleted) {

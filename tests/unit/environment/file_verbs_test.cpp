@@ -186,7 +186,7 @@ TEST_F(DeleteFolderTest, ABackslashAtTheEndChangesNothingButTheLog) {
 TEST_F(DeleteFolderTest, ADriveIsRefusedUntouched) {
   PutFile("C:\\a.txt", "x");
   PutFile("C:\\QUMA\\b.txt", "x");
-  for (const char* root : {"C:\\", "\\", "C:\\\\", "C:\\QUMA\\.."}) {
+  for (const char* root : {"C:\\", "\\", "C:\\\\", "C:", "C:\\QUMA\\.."}) {
     EXPECT_FALSE(DeleteFolder(root)) << root;
     EXPECT_EQ(run.LastError, "Fehler in Funktion DeleteFolder:Pfad nicht gefunden (" + std::string(root) + ")");
   }
@@ -271,6 +271,32 @@ TEST_F(CopyFileTest, APatternCopiesAllItsFiles) {
   EXPECT_EQ(GetFile("C:\\ziel\\c.doc"), "c.doc");
 }
 
+TEST_F(CopyFileTest, ABackslashAloneIsTheRootOfTheDrive) {
+  PutFile("C:\\x\\a.txt", "a");
+  // Without a confirmed client and year the path variable is empty.
+  EXPECT_TRUE(RunLines({"COPYFILE=C:\\x\\a.txt,$FIBUPATH\\"}));
+  EXPECT_EQ(GetFile("C:\\a.txt"), "a");
+  const Lines lines = Log();
+  EXPECT_EQ(Lines(lines.end() - 4, lines.end() - 2), (Lines{Made("\\"), "CopyFile C:\\x\\a.txt To \\"}));
+}
+
+TEST_F(CopyFileTest, ADriveAloneIsItsPresentFolder) {
+  SetApplicationPath("C:\\arbeit");
+  PutFile("C:\\x\\a.txt", "a");
+  EXPECT_TRUE(CopyFile("C:\\x\\*.txt", "C:"));
+  EXPECT_EQ(GetFile("C:\\arbeit\\a.txt"), "a");
+  EXPECT_FALSE(FileExists("C:\\a.txt"));
+}
+
+TEST_F(CopyFileTest, APatternWithoutADestinationFailsLikeAFile) {
+  PutFile("C:\\x\\a.txt", "a");
+  for (const char* source : {"C:\\x\\a.txt", "C:\\x\\*.txt"}) {
+    EXPECT_FALSE(CopyFile(source, "")) << source;
+    EXPECT_EQ(run.LastError, "Fehler 76 beim Kopieren: Pfad nicht gefunden") << source;
+  }
+  EXPECT_FALSE(FileExists("C:\\a.txt"));
+}
+
 TEST_F(CopyFileTest, AMissingSourceFailsWithItsNumber) {
   PutFolder("C:\\x\\ordner");
   for (const char* source : {"C:\\x\\fehlt.txt", "C:\\x\\*.txt", "C:\\x\\ordner", "C:\\x\\"}) {
@@ -335,8 +361,6 @@ TEST_F(CopyFileTest, PathsOf300CharactersAndNamesThatTheSystemRefuses) {
   EXPECT_EQ(run.LastError, "Fehler 53 beim Kopieren: Datei nicht gefunden");
   EXPECT_FALSE(CopyFile("C:\\x\\a.txt", "C:\\zi|el\\"));
   EXPECT_EQ(run.LastError, "Fehler 64 beim Kopieren: Falscher Dateiname");
-  EXPECT_FALSE(CopyFile("C:\\x\\a.txt", ""));
-  EXPECT_EQ(run.LastError, "Fehler 76 beim Kopieren: Pfad nicht gefunden");
 }
 
 TEST_F(CopyFileTest, ABlankAtTheEndOfANameIsDroppedByTheSystem) {
@@ -416,6 +440,25 @@ TEST_F(CopyFolderTest, ADestinationInsideTheSourceComesToAnEnd) {
   EXPECT_TRUE(CopyFolder("C:\\x", "C:\\x\\kopie"));
   EXPECT_EQ(GetFile("C:\\x\\kopie\\a.txt"), "a");
   EXPECT_FALSE(FolderExists("C:\\x\\kopie\\kopie\\kopie"));
+}
+
+TEST_F(CopyFolderTest, ABackslashAloneIsTheRootOfTheDrive) {
+  PutFile("C:\\x\\tief\\a.txt", "a");
+  EXPECT_TRUE(CopyFolder("\\", "C:\\ziel"));
+  EXPECT_EQ(GetFile("C:\\ziel\\x\\tief\\a.txt"), "a");
+  EXPECT_TRUE(CopyFolder("C:\\x\\tief", "\\"));
+  EXPECT_EQ(GetFile("C:\\tief\\a.txt"), "a");
+}
+
+TEST_F(CopyFolderTest, ADriveAloneIsItsPresentFolder) {
+  SetApplicationPath("C:\\arbeit");
+  PutFile("C:\\arbeit\\unter\\a.txt", "a");
+  PutFile("C:\\fremd.txt", "x");
+  EXPECT_TRUE(CopyFolder("C:", "C:\\ziel"));
+  EXPECT_EQ(GetFile("C:\\ziel\\unter\\a.txt"), "a");
+  EXPECT_EQ(platform::FindFiles("C:\\ziel\\*").size(), 1u);
+  EXPECT_TRUE(CopyFolder("C:\\ziel\\unter", "C:"));
+  EXPECT_EQ(GetFile("C:\\arbeit\\a.txt"), "a");
 }
 
 TEST_F(CopyFolderTest, AFolderOntoItselfIsRefusedAndStays) {
