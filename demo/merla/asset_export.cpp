@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "export_form.h"
 #include "journal.h"
 #include "look.h"
 #include "message_boxes.h"
@@ -17,8 +18,6 @@ namespace merla {
 using namespace standin;
 
 namespace {
-
-constexpr UINT_PTR kTimer = 1;
 
 struct Year {
   std::string currency, first, last, valuations, folder;
@@ -71,7 +70,7 @@ std::vector<std::string> Assets(const Year& year) {
 }
 
 void Finish(const std::string& message, UINT icon) {
-  KillTimer(dialog, kTimer);
+  KillTimer(dialog, kExportTimer);
   EnableWindow(GetDlgItem(dialog, kIdAssetStart), TRUE);
   SetDlgItemTextA(dialog, kIdAssetState, "Bereit.");
   Report(dialog, message, icon);
@@ -90,7 +89,7 @@ void Start() {
   }
   EnableWindow(GetDlgItem(dialog, kIdAssetStart), FALSE);
   SetDlgItemTextA(dialog, kIdAssetState, "Der Export läuft...");
-  SetTimer(dialog, kTimer, options.tick, nullptr);
+  SetTimer(dialog, kExportTimer, options.tick, nullptr);
 }
 
 void Continue() {
@@ -116,26 +115,11 @@ void AddControls() {
   AddControl(dialog, kButtonClass, "S&chließen", WS_TABSTOP, kIdAssetClose, 356, 106, 98, 26);
 }
 
+constexpr ExportForm kForm = {kIdAssetStart, kIdAssetClose, Start, Continue};
+
 LRESULT CALLBACK AssetProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_COMMAND:
-      if (HIWORD(wParam) != BN_CLICKED) return 0;
-      if (LOWORD(wParam) == kIdAssetStart && IsWindowEnabled(GetDlgItem(window, kIdAssetStart))) {
-        Journal("Schaltfläche: Export starten");
-        Start();
-      } else if (LOWORD(wParam) == kIdAssetClose || LOWORD(wParam) == IDCANCEL) {
-        Journal("Schaltfläche: Schließen");
-        DestroyWindow(window);
-      }
-      return 0;
-    case WM_TIMER:
-      Continue();
-      return 0;
-    case WM_DESTROY:
-      dialog = nullptr;
-      return 0;
-  }
-  return DefWindowProcA(window, message, wParam, lParam);
+  if (message == WM_DESTROY) dialog = nullptr;
+  return HandleExportForm(kForm, window, message, wParam, lParam);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "date_field.h"
+#include "export_form.h"
 #include "firm.h"
 #include "journal.h"
 #include "look.h"
@@ -20,8 +21,6 @@ namespace merla {
 using namespace standin;
 
 namespace {
-
-constexpr UINT_PTR kTimer = 1;
 
 HWND dialog = nullptr;
 HWND first = nullptr;
@@ -59,12 +58,12 @@ void Start() {
   } else {
     EnableWindow(GetDlgItem(dialog, kIdPostingStart), FALSE);
     SetDlgItemTextA(dialog, kIdPostingState, "Der Export läuft...");
-    SetTimer(dialog, kTimer, options.tick, nullptr);
+    SetTimer(dialog, kExportTimer, options.tick, nullptr);
   }
 }
 
 void Write() {
-  KillTimer(dialog, kTimer);
+  KillTimer(dialog, kExportTimer);
   std::string file = TextOf(GetDlgItem(dialog, kIdPostingFolder)) + "\\Buchungen.csv";
   bool written = WriteLines(file, Postings());
   EnableWindow(GetDlgItem(dialog, kIdPostingStart), TRUE);
@@ -97,26 +96,11 @@ void Fill() {
   SetDate(last, BusinessYears().back().last);
 }
 
+constexpr ExportForm kForm = {kIdPostingStart, kIdPostingClose, Start, Write};
+
 LRESULT CALLBACK PostingProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_COMMAND:
-      if (HIWORD(wParam) != BN_CLICKED) return 0;
-      if (LOWORD(wParam) == kIdPostingStart && IsWindowEnabled(GetDlgItem(window, kIdPostingStart))) {
-        Journal("Schaltfläche: Export starten");
-        Start();
-      } else if (LOWORD(wParam) == kIdPostingClose || LOWORD(wParam) == IDCANCEL) {
-        Journal("Schaltfläche: Schließen");
-        DestroyWindow(window);
-      }
-      return 0;
-    case WM_TIMER:
-      Write();
-      return 0;
-    case WM_DESTROY:
-      dialog = nullptr;
-      return 0;
-  }
-  return DefWindowProcA(window, message, wParam, lParam);
+  if (message == WM_DESTROY) dialog = nullptr;
+  return HandleExportForm(kForm, window, message, wParam, lParam);
 }
 
 }  // namespace

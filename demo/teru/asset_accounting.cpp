@@ -6,6 +6,7 @@
 #include "asset_register.h"
 #include "books.h"
 #include "export_dialog.h"
+#include "export_form.h"
 #include "journal.h"
 #include "look.h"
 #include "message_boxes.h"
@@ -16,8 +17,6 @@ namespace teru {
 using namespace standin;
 
 namespace {
-
-constexpr UINT_PTR kTimer = 1;
 
 HWND dialog = nullptr;
 
@@ -76,11 +75,11 @@ void StartExport() {
     return;
   }
   EnableWindow(GetDlgItem(dialog, kIdAssetStart), FALSE);
-  SetTimer(dialog, kTimer, exportTick, nullptr);
+  SetTimer(dialog, kExportTimer, exportTick, nullptr);
 }
 
 void Export() {
-  KillTimer(dialog, kTimer);
+  KillTimer(dialog, kExportTimer);
   EnableWindow(GetDlgItem(dialog, kIdAssetStart), TRUE);
   const std::string folder = ExportFolder();
   const std::string firstDay = ChosenYear().substr(0, 10);
@@ -110,27 +109,12 @@ void AddControls() {
   FillYears();
 }
 
+constexpr ExportForm kForm = {kIdAssetStart, kIdAssetClose, StartExport, Export};
+
 LRESULT CALLBACK AssetProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_COMMAND:
-      if (HIWORD(wParam) == CBN_SELCHANGE && lParam != 0) {
-        Choose(LOWORD(wParam));
-      } else if (HIWORD(wParam) == BN_CLICKED && LOWORD(wParam) == kIdAssetStart) {
-        Journal("Schaltfläche: Export starten");
-        StartExport();
-      } else if (HIWORD(wParam) == BN_CLICKED && (LOWORD(wParam) == kIdAssetClose || LOWORD(wParam) == IDCANCEL)) {
-        Journal("Schaltfläche: Schließen");
-        DestroyWindow(window);
-      }
-      return 0;
-    case WM_TIMER:
-      Export();
-      return 0;
-    case WM_DESTROY:
-      dialog = nullptr;
-      return 0;
-  }
-  return DefWindowProcA(window, message, wParam, lParam);
+  if (message == WM_COMMAND && HIWORD(wParam) == CBN_SELCHANGE && lParam != 0) Choose(LOWORD(wParam));
+  if (message == WM_DESTROY) dialog = nullptr;
+  return HandleExportForm(kForm, window, message, wParam, lParam);
 }
 
 }  // namespace

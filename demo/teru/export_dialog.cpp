@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "export_form.h"
 #include "export_job.h"
 #include "journal.h"
 #include "look.h"
@@ -16,8 +17,6 @@ using namespace standin;
 UINT exportTick = 100;
 
 namespace {
-
-constexpr UINT_PTR kTimer = 1;
 
 HWND dialog = nullptr;
 ExportJob job;
@@ -41,14 +40,14 @@ void StartExport() {
     return;
   }
   ShowProgress();
-  SetTimer(dialog, kTimer, exportTick, nullptr);
+  SetTimer(dialog, kExportTimer, exportTick, nullptr);
 }
 
 void ContinueExport() {
   bool written = job.Step();
   ShowProgress();
   if (job.Running()) return;
-  KillTimer(dialog, kTimer);
+  KillTimer(dialog, kExportTimer);
   if (written) {
     Report(dialog, "Der Export ist abgeschlossen. " + std::to_string(job.FileCount()) + " Dateien wurden geschrieben.",
            MB_ICONINFORMATION);
@@ -68,27 +67,14 @@ void AddControls() {
   AddControl(dialog, kButtonClass, "&Schließen", WS_TABSTOP, kIdClose, 356, 124, 98, 26);
 }
 
+constexpr ExportForm kForm = {kIdStart, kIdClose, StartExport, ContinueExport};
+
 LRESULT CALLBACK ExportProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_COMMAND:
-      if (HIWORD(wParam) != BN_CLICKED) break;
-      if (LOWORD(wParam) == kIdStart) {
-        Journal("Schaltfläche: Export starten");
-        StartExport();
-      } else if (LOWORD(wParam) == kIdClose || LOWORD(wParam) == IDCANCEL) {
-        Journal("Schaltfläche: Schließen");
-        DestroyWindow(window);
-      }
-      return 0;
-    case WM_TIMER:
-      ContinueExport();
-      return 0;
-    case WM_DESTROY:
-      job.Stop();
-      dialog = nullptr;
-      return 0;
+  if (message == WM_DESTROY) {
+    job.Stop();
+    dialog = nullptr;
   }
-  return DefWindowProcA(window, message, wParam, lParam);
+  return HandleExportForm(kForm, window, message, wParam, lParam);
 }
 
 }  // namespace

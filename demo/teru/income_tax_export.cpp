@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "export_dialog.h"
+#include "export_form.h"
 #include "journal.h"
 #include "look.h"
 #include "message_boxes.h"
@@ -13,8 +14,6 @@ namespace teru {
 using namespace standin;
 
 namespace {
-
-constexpr UINT_PTR kTimer = 1;
 
 HWND dialog = nullptr;
 std::string client, clientName;
@@ -35,11 +34,11 @@ void Start() {
     return;
   }
   EnableWindow(GetDlgItem(dialog, kIdTaxStart), FALSE);
-  SetTimer(dialog, kTimer, exportTick, nullptr);
+  SetTimer(dialog, kExportTimer, exportTick, nullptr);
 }
 
 void Write() {
-  KillTimer(dialog, kTimer);
+  KillTimer(dialog, kExportTimer);
   EnableWindow(GetDlgItem(dialog, kIdTaxStart), TRUE);
   std::vector<std::string> lines = {"Mandant;Name;Veranlagungsjahr;Zeile;Betrag"};
   for (const char* line :
@@ -62,26 +61,11 @@ void AddControls() {
   AddControl(dialog, kButtonClass, "&Schließen", WS_TABSTOP, kIdTaxClose, 336, 106, 98, 26);
 }
 
+constexpr ExportForm kForm = {kIdTaxStart, kIdTaxClose, Start, Write};
+
 LRESULT CALLBACK IncomeTaxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_COMMAND:
-      if (HIWORD(wParam) != BN_CLICKED) return 0;
-      if (LOWORD(wParam) == kIdTaxStart && IsWindowEnabled(GetDlgItem(window, kIdTaxStart))) {
-        Journal("Schaltfläche: Export starten");
-        Start();
-      } else if (LOWORD(wParam) == kIdTaxClose || LOWORD(wParam) == IDCANCEL) {
-        Journal("Schaltfläche: Schließen");
-        DestroyWindow(window);
-      }
-      return 0;
-    case WM_TIMER:
-      Write();
-      return 0;
-    case WM_DESTROY:
-      dialog = nullptr;
-      return 0;
-  }
-  return DefWindowProcA(window, message, wParam, lParam);
+  if (message == WM_DESTROY) dialog = nullptr;
+  return HandleExportForm(kForm, window, message, wParam, lParam);
 }
 
 }  // namespace
