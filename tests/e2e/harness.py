@@ -11,7 +11,7 @@ import unittest
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 sys.path[:0] = [str(ROOT / "scripts"), str(pathlib.Path(__file__).resolve().parent)]
 
-from probe import WM_NULL, Probe  # noqa: E402
+from probe import WM_NULL, Probe, ProbeError  # noqa: E402
 from wine_desktop import BUILD, CODE_PAGE, WINDOWS_BUILD, Desktop, DesktopError, wait_until  # noqa: E402
 
 RESULTS = BUILD / "test"
@@ -125,22 +125,29 @@ class EndToEndTest(unittest.TestCase):
 
     def press(self, caption=CAPTION):
         """Puts the window in front and presses the hot key."""
-        self.desktop.activate("^" + re.sub(r"([][().])", r"\\\1", caption))
-        self._wait_in_front(caption)
-        self.desktop.key("alt+F12")
-
-    def _wait_in_front(self, caption):
-        """Windows hears of it later than the window manager, and not at all where that had the window in front before."""
-
-        def in_front():
-            return self.probe.foreground() in [window.handle for window in self._windows_of(caption)]
-
         try:
-            wait_until(in_front, 2, f"{caption!r} in front")
+            self.bring_to_front(caption, 2)
         except DesktopError:
+            # Windows hears nothing where the window manager had the window in front before.
             left, top, _, _ = self._windows_of(caption)[0].place
             self.desktop.click(left + 8, top + 60)  # the empty margin
-            wait_until(in_front, 10, f"{caption!r} in front")
+            self._wait_for_foreground(lambda: self._windows_of(caption), caption, 10)
+        self.desktop.key("alt+F12")
+
+    def bring_to_front(self, caption, seconds=10):
+        """Activates a window whose caption begins so, and waits until keys reach it."""
+        self.desktop.activate("^" + re.sub(r"([][().])", r"\\\1", caption))
+        self._wait_for_foreground(lambda: self._windows_of(caption), caption, seconds)
+
+    def wait_in_front(self, window):
+        """Waits until keys reach a window that comes to the front by itself."""
+        self._wait_for_foreground(lambda: [window], window.text, 10)
+
+    def _wait_for_foreground(self, windows, caption, seconds):
+        """Windows hears of it later than the window manager."""
+        wait_until(
+            lambda: self.probe.foreground() in [window.handle for window in windows()], seconds, f"{caption!r} in front"
+        )
 
     def _windows_of(self, caption):
         return [window for window in self.probe.windows() if window.text.startswith(caption)]
@@ -151,7 +158,10 @@ class EndToEndTest(unittest.TestCase):
         """Waits for a window of this title that shows these texts; the program's dialogs share one title."""
 
         def shows(window):
-            shown = self.probe.texts(window)
+            try:
+                shown = self.probe.texts(window)
+            except ProbeError:
+                return False  # it has closed meanwhile
             return all(text in shown for text in texts)
 
         return self.probe.window(title, seconds, shows)
@@ -194,7 +204,7 @@ class EndToEndTest(unittest.TestCase):
 
     def answer(self, title, *keys):
         """Presses keys in the window of this title."""
-        self.desktop.activate(f"^{title}$")
+        self.bring_to_front(title)
         self.desktop.key(*keys)
 
     # Files

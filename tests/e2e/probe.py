@@ -87,8 +87,8 @@ class Probe:
         answers = []
         while (answer := self._line()) != ".":
             answers.append([_unescape(field) for field in answer.split("\t")])
-        if answers and answers[0][0] == "error":
-            raise ProbeError(answers[0][1])
+        if answers and answers[-1][0] == "error":
+            raise ProbeError(answers[-1][1])
         return answers
 
     def _line(self):

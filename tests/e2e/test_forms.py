@@ -1,7 +1,6 @@
 """Forms with real windows: keyboard, modal forms, menus, sizes, room for texts, and what is given back to the system."""
 
 import subprocess
-import time
 import unittest
 
 from harness import CODE_PAGE, RESULTS, WINDOWS_BUILD, EndToEndTest, wait_until
@@ -27,12 +26,8 @@ class FormsTest(EndToEndTest):
         with open(self._told, "wb") as told:
             self._started.append(self.desktop.program(FORMS_PROBE, word, stdout=told))
         window = self.probe.window(title)
-        self.activate(title)
+        self.bring_to_front(title)
         return window
-
-    def activate(self, title):
-        self.desktop.activate(f"^{title}$")
-        time.sleep(0.3)  # the window manager names a window as the active one before keys reach it
 
     def events(self):
         return self._told.read_bytes().decode(CODE_PAGE).splitlines()
@@ -111,7 +106,7 @@ class LifeTest(FormsTest):
         fresh = self.probe.window(TITLE)
         self.assertNotEqual(fresh.handle, window.handle)
         self.assertEqual(self.probe.control(fresh, YEAR).text, "")
-        self.activate(TITLE)
+        self.bring_to_front(TITLE)
         self.desktop.key("Return")
         self.wait_event("cmdOK: Neu, ")
 
@@ -127,7 +122,7 @@ class LifeTest(FormsTest):
         second = self.probe.window(SECOND_TITLE)
         self.assertFalse(self.probe.window(TITLE).enabled)
         self.desktop.click(*self.probe.control(window, OK).middle)
-        self.activate(SECOND_TITLE)
+        self.bring_to_front(SECOND_TITLE)
         self.desktop.key("Escape")
         self.probe.wait_gone(second)
         self.wait_event("cmdSecond: back")

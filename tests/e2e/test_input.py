@@ -199,7 +199,7 @@ class AccountQuestionTest(InputTest):
         self.start_program()
         self.press(self.main.text)
         window = self.dialog("Bitte geben Sie die Konto-Nr und BLZ ein", "Konto:", "BLZ:", "OK", "Abbrechen")
-        time.sleep(0.3)  # the window manager names a window as the active one before keys reach it
+        self.wait_in_front(window)
         return window
 
     def saved(self):

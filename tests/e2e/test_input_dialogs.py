@@ -20,8 +20,8 @@ class InputDialogsTest(EndToEndTest):
         self.pressed = time.monotonic()
         self.press()
 
-    def keys(self, *keys):
-        time.sleep(0.3)  # the window manager names a window as the active one before keys reach it
+    def keys(self, window, *keys):
+        self.wait_in_front(window)
         self.desktop.key(*keys)
 
 
@@ -32,15 +32,15 @@ class ClientRangeTest(InputDialogsTest):
 
     def test_a_range_by_keys_alone_and_the_message_on_the_way(self):
         window = self.ask()
-        self.keys("Down", "Down", "Tab")
+        self.keys(window, "Down", "Down", "Tab")
         self.desktop.type("1000")
         self.desktop.key("Tab")
         self.desktop.type("Meier")
         self.desktop.key("Return")
         box = self.dialog("Bitte geben Sie eine numerische Mandantennummer ein!")
-        self.keys("Return")
+        self.keys(box, "Return")
         self.probe.wait_gone(box)
-        self.keys("shift+Tab", "Tab")  # comes back with the text selected
+        self.keys(window, "shift+Tab", "Tab")  # comes back with the text selected
         self.desktop.type("2000")
         self.desktop.key("Return")
         self.probe.wait_gone(window)
@@ -56,8 +56,8 @@ class ClientRangeTest(InputDialogsTest):
         self.assertIn("ShowInputDlg (1)", self.log())
 
     def test_escape_stops_the_run(self):
-        self.ask()
-        self.keys("Escape")
+        window = self.ask()
+        self.keys(window, "Escape")
         self.wait_run_ended()
         self.assertEqual(self.log()[-4:], ["ShowInputDlg (-1)", STOPPED, STARS, ""])
 
@@ -88,7 +88,7 @@ class ClientYearsTest(InputDialogsTest):
 
     def test_filled_by_keys_alone_in_the_order_of_the_controls(self):
         window = self.ask(["1001;Müller;;;;Januar", "1002;Meier;;;;April", "1003;Schulz;;;;Januar"])
-        time.sleep(0.3)
+        self.wait_in_front(window)
         self.desktop.type("x1002")
         self.desktop.key("Tab")
         self.desktop.type("1,003")
@@ -115,11 +115,11 @@ class ClientYearsTest(InputDialogsTest):
         window = self.ask(
             ["1001;Müller;;;;Januar"], MERLA={"WirtschaftsjahrAb": "2005", "WirtschaftsjahrBis": "2004"}
         )
-        self.keys("Return")
+        self.keys(window, "Return")
         box = self.dialog("Bitte prüfen Sie Ihre Eingaben: Der Exportzeitraum ist ungültig!")
-        self.keys("Return")
+        self.keys(box, "Return")
         self.probe.wait_gone(box)
-        self.keys("Escape")
+        self.keys(window, "Escape")
         self.probe.wait_gone(window)
         self.wait_run_ended()
         self.assertIn("ShowInputMerFib (-1)", self.log())
@@ -131,7 +131,7 @@ class ClientYearsTest(InputDialogsTest):
         shown = time.monotonic() - self.pressed
         print(f"\n100,000 clients: {shown:.1f} s from the hot key to the dialog")
         self.assertLess(shown, 5)
-        time.sleep(0.3)
+        self.wait_in_front(window)
         self.desktop.type("500")
         self.desktop.key("Tab")
         self.desktop.type("501")
@@ -155,7 +155,7 @@ class YearsTest(InputDialogsTest):
             process = self.desktop.program(FORMS_PROBE, word, stdout=told, stderr=subprocess.DEVNULL)
         self._started.append(process)
         window = self.dialog("OK", "Abbrechen", *texts)
-        self.desktop.activate(f"^{TITLE}$")
+        self.bring_to_front(TITLE)
         self.list = self.probe.control(window, class_name="SysListView32")
         return window
 
@@ -170,10 +170,10 @@ class YearsTest(InputDialogsTest):
         return self.desktop.host_path(path).read_bytes().decode(CODE_PAGE).split("\r\n")
 
     def test_the_blank_moves_the_first_year_and_the_combo_box_takes_the_treatment(self):
-        self.show("input-anl", "GWG in Auswertungen:")
-        self.keys("Up", "Down", "Down", "space")
+        window = self.show("input-anl", "GWG in Auswertungen:")
+        self.keys(window, "Up", "Down", "Down", "space")
         wait_until(lambda: self.checked() == [False] * 2 + [True] * 6, 5, "the third year and those behind it")
-        self.keys("Tab", "Down", "Return")
+        self.keys(window, "Tab", "Down", "Return")
         self.wait_ended()
         self.assertEqual(
             self.written("C:\\TeRu\\Extern\\Berater-\\TDConv.cfg"), ["[ANL]", "Optionen GWGinAuswertungen=1", ""]
@@ -193,21 +193,21 @@ class YearsTest(InputDialogsTest):
 
     def test_without_a_year_a_message_keeps_the_dialog_open(self):
         window = self.show("input-mer-anl")
-        self.keys("Home", "space")
+        self.keys(window, "Home", "space")
         wait_until(lambda: all(self.checked()), 5, "all years")
-        self.keys("space")
+        self.keys(window, "space")
         wait_until(lambda: not any(self.checked()), 5, "no year")
-        self.keys("Return")
+        self.keys(window, "Return")
         box = self.dialog("Bitte wählen Sie ein Wirtschaftsjahr aus!")
-        self.keys("Return")
+        self.keys(box, "Return")
         self.probe.wait_gone(box)
         self.assertTrue(self.probe.window(TITLE, where=lambda other: other.handle == window.handle).enabled)
-        self.keys("Escape")
+        self.keys(window, "Escape")
         self.wait_ended()
 
     def test_a_confirmation_writes_the_configuration_and_makes_the_folders(self):
-        self.show("input-mer-anl")
-        self.keys("Return")
+        window = self.show("input-mer-anl")
+        self.keys(window, "Return")
         self.wait_ended()
         clients = self.desktop.host_path("C:\\TeRu\\Extern")
         folder = next(clients.iterdir()) / "ANL"

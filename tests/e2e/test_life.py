@@ -147,7 +147,7 @@ class ChoiceTest(LogTest):
         self.press("TeRu - ohne Mandant")
         self.dialog("Der Mandant und das Wirtschaftsjahr konnten nicht ermittelt werden.")
         # The first text box has the focus, Tab leads to the second, Enter presses OK.
-        self.desktop.activate(f"^{TITLE}$")
+        self.bring_to_front(TITLE)
         self.desktop.type("0815")
         self.desktop.key("Tab")
         self.desktop.type("2004")

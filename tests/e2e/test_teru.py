@@ -7,7 +7,7 @@ from probe import WM_CLOSE, WM_COMMAND
 
 PATH_BOX, START, CLOSE, PROGRESS_TEXT = 2110, 2111, 2112, 2113
 MENU_QUIT, MENU_EXPORT = 2001, 2101
-MENU_CLIENT_RECORD, YEAR_FRAME, YEAR, PERIOD, PARTNERS = 2201, 2250, 2251, 2254, 2271
+MENU_CLIENT_RECORD, NAME, YEAR_FRAME, YEAR, PERIOD, PARTNERS = 2201, 2211, 2250, 2251, 2254, 2271
 CB_SETCURSEL, CBN_SELCHANGE, CBN_SELENDOK, LVM_GETSELECTEDCOUNT = 334, 1, 9, 4146
 FILES = {"Konten.csv": 38, "Debitoren.csv": 14, "Buchungen.csv": 480}
 
@@ -118,7 +118,9 @@ class ClientRecordDialogTest(EndToEndTest):
         )
 
     def test_dialog_can_be_worked_by_keys(self):
-        self.desktop.activate("^Stammdaten$")
+        self.bring_to_front("Stammdaten")
+        name = self.probe.control(self.record, NAME).handle
+        wait_until(lambda: self.probe.focus(self.record) == name, 10, "the focus of the first text box")
         self.desktop.key(*["Tab"] * 27)
         order = ["2211", "2212", "2213", "2214", "2215", "2216", "2261", "2271", "2281"]
 
