@@ -1,6 +1,5 @@
 #include "engine/built_in_variables.h"
 
-#include "automation/state.h"
 #include "clients/asset_matrix.h"
 #include "clients/client_list.h"
 #include "clients/merla_matrix.h"
@@ -22,7 +21,7 @@ constexpr BuiltInVariable kVariables[] = {
     {"$PATH", [] { return GetExportPath(""); }},
     {"$GDPDUPATH", [] { return GetExportPath("GDPDU"); }},
     {"$FIBUPATH", [] { return GetExportPath("FIBU"); }},
-    {"$CTLPATH", [] { return automation.CtlPath; }},
+    {"$CTLPATH", GetCtlPath},
     {"$FIBUMANDANTPATH", [] { return GetMandantPath("FIBU"); }},
     {"$MANDANTPATH", [] { return GetMandantPath(""); }},
     {"$ANLPATH", [] { return GetExportPath("ANL"); }},

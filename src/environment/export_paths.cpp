@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "automation/state.h"
 #include "clients/state.h"
 #include "environment/discovery.h"
 #include "environment/paths.h"
@@ -100,5 +101,7 @@ std::string GetTemp() {
   }
   return path;
 }
+
+std::string GetCtlPath() { return automation.CtlPath; }
 
 }  // namespace basMain

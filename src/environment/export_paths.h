@@ -23,4 +23,7 @@ std::string GetMandantPath(const std::string& module);
 // where that is possible. Not made and not tested. A fault is logged.
 std::string GetTemp();
 
+// The text that "GETPATHFROMCTL" has read last.
+std::string GetCtlPath();
+
 }  // namespace basMain

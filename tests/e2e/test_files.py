@@ -127,6 +127,39 @@ class FilesTest(EndToEndTest):
         self.assertEqual(log[-2:], [f"{MADE}\\", f"CopyFile {DATA}\\a.txt To \\"])
         self.assertTrue(copy.exists())
 
+    # Files that are read
+
+    def test_the_folder_in_mandanten_txt_takes_the_place_of_the_year(self):
+        record = ";" * 17 + "Prüfung Ä;mehr"
+        path = self.desktop.host_path("C:\\TeRu\\Extern\\ 4711 \\ 2005\\Mandanten.txt")
+        path.parent.mkdir(parents=True)
+        path.write_bytes(f"Überschrift\r\n{record}\r\n".encode(CODE_PAGE))
+        log = self.run_macro("MSG=$MANDANTPATH")
+        self.assertEqual(
+            log[-2:], [f"{MADE}C:\\TeRu\\Extern\\ 4711 \\ 2005\\", "MSG: C:\\TeRu\\Extern\\ 4711 \\ Prüfung Ä"]
+        )
+
+    def test_the_records_of_a_file_are_walked_to_its_end(self):
+        self.put("Mandanten Ä.csv", "Nummer;Name;\r\n1;Müller;\r\n2;Groß & Klein;")
+        log = self.run_macro(
+            f"OPENCSV={DATA}\\Mandanten Ä.csv,1,;", "DIM Name", "DO", "Name=CSVVALUE(1)", "LOOP UNTIL CSVFILE.EOF"
+        )
+        self.assertEqual(
+            log,
+            [
+                f"CSV-Datei ({DATA}\\Mandanten Ä.csv) erfolgreich geöffnet",
+                "GetCSVValue Line 1;Müller;",
+                "GetCSVValue: Value=Müller",
+                "isCSVFileEOF: EOF=False",
+                "GetCSVValue Line 2;Groß & Klein;",
+                "GetCSVValue: Value=Groß & Klein",
+                "isCSVFileEOF: EOF=True",
+            ],
+        )
+        (self.data / "Mandanten Ä.csv").unlink()
+        self.begin_macro(f"OPENCSV={DATA}\\Mandanten Ä.csv,1,;")
+        self.wait_log(f"CSV-Datei ({DATA}\\Mandanten Ä.csv) existiert nicht...")
+
     # What the system refuses
 
     def test_a_missing_source_fails_with_its_number(self):

@@ -6,6 +6,7 @@
 #include "clients/state.h"
 #include "engine/state.h"
 #include "platform/files.h"
+#include "platform/registry.h"
 #include "platform/simulated/desktop.h"
 #include "platform/system.h"
 #include "runtime/fault.h"
@@ -57,6 +58,15 @@ TEST_F(ExportPathsTest, OnlyTheWholeTextIsTrimmed) {
   clients.ContextPath = "\\ 4711 \\ 2005 ";
   EXPECT_EQ(GetExportPath(""), "C:\\TeRu\\Extern\\ 4711 \\ 2005");
   EXPECT_EQ(GetExportPath("GDPDU"), "C:\\TeRu\\Extern\\ 4711 \\FIBU\\ 2005\\GDPDU");
+}
+
+TEST_F(ExportPathsTest, ABlankInFrontOfTheDataDirectoryStaysInTheAssetPathAlone) {
+  Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {platform::REG_SZ, std::string(" C:\\TeRu\0", 9)};
+  clients.ContextPath = "\\4711\\2003";
+  EXPECT_EQ(GetExportPath(""), "C:\\TeRu\\Extern\\4711\\2003");
+  EXPECT_EQ(GetExportPath("GDPDU"), "C:\\TeRu\\Extern\\4711\\FIBU\\2003\\GDPDU");
+  EXPECT_EQ(GetExportPath("FIBU"), "C:\\TeRu\\Extern\\4711\\FIBU\\2003");
+  EXPECT_EQ(GetExportPath("ANL"), " C:\\TeRu\\Extern\\ANLTEMP");
 }
 
 TEST_F(ExportPathsTest, WithoutClientAndYearThePathIsTheBaseWithABackslash) {
@@ -308,10 +318,12 @@ TEST_F(TempTest, ATildeThatLeadsNowhereStays) {
 }
 
 TEST_F(TempTest, ALongPathBeyondTheBufferStaysShort) {
-  const std::string folder = std::string(120, 'x') + "\\" + std::string(116, 'y') + "\\ein langer Name";
-  PutFile("C:\\" + folder + "\\a", "");
-  SetEnvironmentVariable("temp", ShortPath("C:\\" + folder));
-  EXPECT_EQ(GetTemp(), ShortPath("C:\\" + folder));
+  for (const std::string& name : {std::string(115, 'y'), std::string(116, 'z')}) {
+    const std::string folder = "C:\\" + std::string(120, 'x') + "\\" + name + "\\ein langer Name";
+    PutFile(folder + "\\a", "");
+    SetEnvironmentVariable("temp", ShortPath(folder));
+    EXPECT_EQ(GetTemp(), folder.size() == 255 ? folder : ShortPath(folder)) << folder.size();
+  }
 }
 
 TEST_F(TempTest, WhereTheSystemCannotExpandTheFaultIsLogged) {

@@ -147,6 +147,14 @@ TEST_F(WaitForFileTest, AStopWhileTheFileGrowsEndsItsReadingWithNothingLogged) {
   ExpectLog({Reading(1)});
 }
 
+TEST_F(WaitForFileTest, TheSizeIsReadAgainBehindAStopToo) {
+  PutFile("C:\\x\\a.txt", "abc");
+  Schedule(1000, [] { Remove("C:\\x\\a.txt"); });
+  StopAt(1000);
+  EXPECT_FALSE(WaitForFile("C:\\x\\a.txt"));
+  EXPECT_EQ(run.LastError, "Fehler in Funktion WaitForFile:Datei nicht gefunden");
+}
+
 TEST_F(WaitForFileTest, AStopWithAPatternAndNoMatchLogsNothing) {
   PutFile("C:\\x\\a.doc", "1");
   StopAt(10000);
@@ -201,6 +209,20 @@ TEST_F(WaitForFileTest, APatternMeansAllFilesOfItsFolderWithItsExtension) {
   EXPECT_TRUE(WaitForFile("C:\\x\\*.Txt"));
   ExpectLog({Reading(1), Reading(2)});
   EXPECT_EQ(Clock(), 500 + 2 * 1500);
+}
+
+TEST_F(WaitForFileTest, TheExtensionIsWhatFollowsTheLastDotOfTheName) {
+  PutFile("C:\\x\\Stand 1.2.txt", "1");
+  EXPECT_TRUE(WaitForFile("C:\\x\\Stand 1.*.txt"));
+  ExpectLog({Reading(1)});
+}
+
+TEST_F(WaitForFileTest, APatternWithoutADotHasTheExtensionOfItsFolder) {
+  PutFile("C:\\x.y\\LIESMICH", "1");
+  StopAt(10000);
+  EXPECT_TRUE(WaitForFile("C:\\x.y\\*"));
+  EXPECT_EQ(Clock(), 10000);
+  EXPECT_TRUE(Log().empty());
 }
 
 TEST_F(WaitForFileTest, TheNamePartOfAPatternPlaysNoRole) {
