@@ -102,8 +102,14 @@ class MerlaTest(EndToEndTest):
         self.assertEqual(rows, expected)
         self.assertNotIn("Fehler: Währung konnte nicht gelesen werden.", self.log())
 
+    def test_years_are_read_from_the_dialog_of_version_260(self):
+        self.read_layout("260", 9, MERLA={"Version": "260"})
+
     def test_years_are_read_from_the_dialog_of_version_280(self):
         self.read_layout("280", 9, MERLA={"Version": "280"})
+
+    def test_years_are_read_from_the_dialog_of_version_2100_where_the_settings_name_no_places(self):
+        self.read_layout("280", 9, MERLA={"Version": "2100"})  # the dialog as it was before 2100
 
     def test_years_are_read_from_the_dialog_of_version_2100_at_the_places_of_the_settings(self):
         places = {

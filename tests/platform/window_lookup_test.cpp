@@ -209,6 +209,7 @@ TEST_F(WindowLookup, DeadHandleNamesNothing) {
     EXPECT_EQ(text, "");
     EXPECT_EQ(platform::GetDlgCtrlID(dead), 0);
     EXPECT_EQ(platform::GetDlgItem(dead, 7), 0);
+    EXPECT_EQ(platform::GetDlgItem(dead, 0), 0) << "top-level windows have no id";
     EXPECT_EQ(platform::GetParent(dead), 0);
     EXPECT_EQ(platform::GetWindow(dead, platform::GW_HWNDNEXT), 0);
     EXPECT_EQ(platform::GetWindow(dead, platform::GW_CHILD), 0);

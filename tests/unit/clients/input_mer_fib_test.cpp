@@ -208,6 +208,11 @@ TEST_F(InputMerFibTest, YearsAscendWithinAClient) {
                                             "1002;01.04.2004;31.03.2005;", "1002;01.04.2005;31.03.2006;"}));
 }
 
+TEST_F(InputMerFibTest, ClientNumbersAreWrittenAsInTheClientFile) {
+  ClientFile({" 0100 ;;;;;Januar", "A12;;;;;Januar"});
+  EXPECT_EQ(Written("2003", "2003"), (Lines{" 0100 ;01.01.2003;31.12.2003;", "A12;01.01.2003;31.12.2003;"}));
+}
+
 TEST_F(InputMerFibTest, ClientsWithoutAMarkAreLeftOut) {
   Show([] {
     ClickBox(frmInputMerFib.lstViewMandanten, 0);
@@ -246,6 +251,11 @@ TEST_F(InputMerFibTest, TheWorkFilesPathIsTheResult) {
   EXPECT_EQ(clients.InputState, 0);
   EXPECT_FALSE(run.StopRun);
   EXPECT_FALSE(run.RunFailed);
+}
+
+TEST_F(InputMerFibTest, TheLastYearIsKeptAsTyped) {
+  Written("2005", " 2005 ");
+  EXPECT_EQ(clients.MerlaMaxYear, " 2005 ");
 }
 
 TEST_F(InputMerFibTest, AnInvalidPeriodIsRefusedAndTheOldFileIsGone) {
