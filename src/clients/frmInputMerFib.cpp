@@ -81,9 +81,7 @@ forms::Box InputMerFibForm::Layout() {
 
 void InputMerFibForm::Form_Load() {
   InputDialog::Form_Load();
-  fileName_.clear();
   exportFileName_.clear();
-  message_.clear();
   Skip([&] { PresetYear(txtFrom, "WirtschaftsjahrAb"); });
   Skip([&] { PresetYear(txtTo, "WirtschaftsjahrBis"); });
 }

@@ -1,6 +1,7 @@
 """The stand-in's dialog "Anlagenbuchhaltung", and the macro that exports its years one by one."""
 
 import shutil
+import time
 import unittest
 
 from harness import CAPTION, CODE_PAGE, COMPLETED, ROOT, STARS, EndToEndTest, settings, wait_until
@@ -17,14 +18,19 @@ class AssetTest(EndToEndTest):
     def open_dialog(self):
         main, _ = self.start_teru("--tick", "5")
         self.probe.post(main, WM_COMMAND, MENU_ASSETS)
-        self.dialog = self.probe.window(DIALOG)
+        self.assets = self.probe.window(DIALOG)
         self.wait_caption(main)
 
     def wait_caption(self, main):
         wait_until(lambda: self.probe.windows(ASSET_CAPTION), 5, "the caption of the module")
 
+    def lay_template(self, **keys):
+        template = self.desktop.host_path("C:\\TeRu\\Import\\anl")
+        template.mkdir(parents=True)
+        (template / "kanzrewe.cfg").write_text(settings({"Vorlage": keys}))
+
     def control(self, identity):
-        return self.probe.control(self.dialog, identity)
+        return self.probe.control(self.assets, identity)
 
     def exported(self, year):
         folder = self.desktop.host_path(f"C:\\TeRu\\Extern\\Berater-12\\4711\\Anl\\0101{year}")
@@ -63,9 +69,7 @@ class AssetDialogTest(AssetTest):
 
 class AssetMacroTest(AssetTest):
     def press_over_the_module(self, first_year):
-        template = self.desktop.host_path("C:\\TeRu\\Import\\anl")
-        template.mkdir(parents=True)
-        (template / "kanzrewe.cfg").write_text(settings({"Vorlage": {"WirtschaftsjahrAb": first_year}}))
+        self.lay_template(WirtschaftsjahrAb=first_year)
         for name in (MACRO, "QUMAEXP.INI"):
             shutil.copy(ROOT / "demo" / name, self.folder)
         self.start_program()
@@ -113,6 +117,40 @@ class AssetMacroTest(AssetTest):
         self.press_over_the_module("")
         self.assertFalse(self.desktop.host_path("C:\\TeRu\\Extern\\Berater-12").exists())
         self.assertNotIn("Schaltfläche: Export starten", self.teru_log())
+
+
+ASK_FOR_YEARS = f"""CREATEMATRIX={YEAR},{AREA},{DIALOG},1
+SHOWINPUTANL='Mandant %1, Jahr %2?'
+DO
+IF MATRIX.CHECKED
+MSG=$MATRIXJAHR
+ENDIF
+LOOP UNTIL MATRIX.EOF
+"""
+
+
+class AssetQuestionTest(AssetTest):
+    def test_the_user_takes_a_year_more_and_keeps_the_proposed_treatment(self):
+        self.lay_template(WirtschaftsjahrAb="2004", GWGinAuswertungen="1")
+        self.lay_macro(ASK_FOR_YEARS, fragment=DIALOG)
+        self.start_program()
+        self.open_dialog()
+        self.press(ASSET_CAPTION)
+        window = self.dialog("Mandant 4711, Jahr 2005?", "GWG in Auswertungen:", seconds=30)
+        treatment = self.probe.control(window, class_name="ComboBox")
+        cb_getcursel = 327
+        wait_until(lambda: self.probe.send(treatment, cb_getcursel) == 1, 5, "the proposed treatment")
+        time.sleep(0.3)  # the window manager names a window as the active one before keys reach it
+        self.desktop.key("Up", "Down", "space", "Return")  # the second of the years 2002 to 2005
+        self.wait_run_ended()
+        written = self.desktop.host_path("C:\\TeRu\\Extern\\Berater-12\\4711\\TDConv.cfg").read_bytes()
+        self.assertEqual(written, b"[ANL]\r\nOptionen GWGinAuswertungen=1\r\n")
+        log = self.log()
+        self.assertEqual(log[log.index(f"WindowCaption: {ASSET_CAPTION}") + 1], "Berater: 12")
+        self.assertEqual(
+            [line for line in log if line.startswith("MSG: ")],
+            ["MSG: 01.01.2003", "MSG: 01.01.2004", "MSG: 01.01.2005"],
+        )
 
 
 if __name__ == "__main__":
