@@ -52,6 +52,8 @@ std::int32_t GetDlgItem(std::int32_t hDlg, std::int32_t nIDDlgItem) {
 }
 
 std::int32_t EnumChildWindows(std::int32_t hWndParent, WNDENUMPROC lpEnumFunc, std::int32_t lParam) {
+  // Some versions of the system take no window for the desktop, and would hand out everybody's windows.
+  if (hWndParent == 0) return 0;
   return ::EnumChildWindows(HandleOf<HWND>(hWndParent), HandleOf<::WNDENUMPROC>(NumberOf(lpEnumFunc)), lParam);
 }
 

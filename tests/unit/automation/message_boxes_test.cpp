@@ -158,6 +158,7 @@ TEST_F(MessageBoxTest, TheClassOfTheTextIsComparedWithoutCase) {
 
 TEST_F(MessageBoxTest, ATextInAControlOfAnotherClassIsNone) {
   const std::int32_t box = AddWindow({.className = "X", .text = "Hinweis"});
+  AddWindow({.className = "StaticText", .text = "text", .parent = box, .id = 4});
   AddWindow({.className = "Edit", .text = "text", .parent = box, .id = 5});
   AddWindow({.className = "Button", .text = "text", .parent = box, .id = 6});
   EXPECT_FALSE(ConfirmDialog("Hinweis", "text"));
@@ -245,6 +246,18 @@ TEST_F(MessageBoxTest, ABoxThatVanishesInThePauseIsNoBox) {
   Schedule(5, [box] { DestroyWindow(box); });
   EXPECT_FALSE(ConfirmDialog("Hinweis", "fertig"));
   ExpectLog({"ConfirmDialog: Hinweis / fertig"});
+}
+
+TEST_F(MessageBoxTest, ATitleIsReadBehindThePumpAndBeforeThePause) {
+  const std::int32_t box = Box("vorher", "fertig", {"OK"});
+  At(box).procedure = [box](const Message& message) -> std::optional<std::int32_t> {
+    if (message.wParam == 77) At(box).text = "Hinweis";
+    return 0;
+  };
+  platform::PostMessageA(box, platform::WM_COMMAND, 77, 0);
+  Schedule(5, [box] { At(box).text = "nachher"; });
+  EXPECT_TRUE(ConfirmDialog("Hinweis", "fertig"));
+  ExpectLog({"ConfirmDialog: Hinweis / fertig", "Dialog Hinweis / fertig wurde mit OK bestätigt."});
 }
 
 TEST_F(MessageBoxTest, AChildOfAWindowThatHasVanishedFitsNoMore) {

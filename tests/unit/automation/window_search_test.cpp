@@ -4,7 +4,9 @@
 #include "automation/state.h"
 #include "engine/state.h"
 #include "frame/state.h"
+#include "platform/messages.h"
 #include "platform/simulated/desktop.h"
+#include "platform/system.h"
 #include "platform/window_state.h"
 #include "support/press.h"
 
@@ -271,6 +273,28 @@ TEST_F(WindowSearchTest, TheProgramsOwnWindowsLiveDuringTheWalk) {
   ExpectLog(Header("A.MAK") + Completed({"MSG: 1"}));
 }
 
+TEST_F(WindowSearchTest, TheProgramsOwnWindowsLiveAlsoWhenNoWindowHasATitle) {
+  StartProgram();
+  MacroEntry(1, ",A.MAK");
+  Macro("A.MAK", {"MSG=1"});
+  PressHotKeyAfter(0);
+  platform::Sleep(0);
+  EXPECT_TRUE(Log().empty());
+  EXPECT_FALSE(Search("Export", true));
+  ExpectLog(Header("A.MAK") + Completed({"MSG: 1"}));
+}
+
+TEST_F(WindowSearchTest, ATitleIsReadBehindThePump) {
+  const std::int32_t window = Top("vorher");
+  At(window).procedure = [window](const Message& message) -> std::optional<std::int32_t> {
+    if (message.number == platform::WM_COMMAND) At(window).text = "nachher";
+    return 0;
+  };
+  platform::PostMessageA(window, platform::WM_COMMAND, 1, 0);
+  EXPECT_TRUE(Search("nachher", true));
+  ExpectFound(window);
+}
+
 TEST_F(WindowSearchTest, AWindowThatVanishesDuringItsPauseDoesNotHarm) {
   const std::int32_t window = Top("Export");
   Child(window, "Button", "Start", 2);
@@ -292,6 +316,14 @@ TEST_F(WindowSearchTest, ADescendantOfTheMainWindowWithThatTextComesBackThroughH
     EXPECT_EQ(hWindow_, child);
     EXPECT_EQ(hControl_, 77);
   }
+}
+
+TEST_F(WindowSearchTest, AnEmptyWindowWordIsInTheFallbackTheFirstDescendantWithoutText) {
+  frame.MainWindow = Top("TeRu");
+  Child(frame.MainWindow, "Static", "Name:", 1);
+  const std::int32_t empty = Child(frame.MainWindow, "X", "", 2);
+  EXPECT_TRUE(Search("", true));
+  ExpectFound(empty);
 }
 
 TEST_F(WindowSearchTest, TheFallbackComparesTheWholeText) {

@@ -58,6 +58,25 @@ TEST_F(KeyVerbs, SendKeyPumpsBeforeTheKeys) {
   EXPECT_TRUE(first);
 }
 
+TEST_F(KeyVerbs, TheVerbsWithAWindowPumpBetweenTheSearchAndTheKeys) {
+  frmStatus.Show();
+  for (const char* line : {"SENDKEY2=a,7,Zahlungen,Edit", "SENDKEY2WINDOW=a,Zahlungen"}) {
+    Activate(dialog_);
+    // Posted in the pause of the search at the window that it finds.
+    Schedule(5, [] { platform::PostMessageA(frmStatus.hWnd(), platform::WM_COMMAND, 999, 0); });
+    At(frmStatus.hWnd()).received.clear();
+    bool joined = false;
+    At(frmStatus.hWnd()).procedure = [&](const Message& message) -> std::optional<std::int32_t> {
+      if (message.wParam == 999) joined = !InputLog().empty();
+      return 0;
+    };
+    InputLog().clear();
+    RunLines({line});
+    EXPECT_FALSE(At(frmStatus.hWnd()).received.empty()) << line;
+    EXPECT_FALSE(joined) << line;
+  }
+}
+
 TEST_F(KeyVerbs, SendKeyOfSpaceInAnyLettersIsOneBlank) {
   EXPECT_TRUE(RunLines({"SENDKEY={space}", "SENDKEY={SPACE}"}));
   EXPECT_EQ(TypedText(main_), "  ");
@@ -115,6 +134,13 @@ TEST_F(KeyVerbs, SendKeyToControlWithoutTheControlFailsAndSendsNothing) {
     EXPECT_TRUE(InputLog().empty()) << line;
     EXPECT_EQ(run.LastError, "") << line;
   }
+}
+
+TEST_F(KeyVerbs, SendKeyToControlDoesNotReachAControlOfAWindowInsideTheMainWindow) {
+  const auto inner = AddWindow({.className = "X", .text = "Innen", .parent = main_});
+  AddWindow({.className = "Edit", .parent = inner, .id = 7});
+  EXPECT_FALSE(RunLines({"SENDKEY2=a,7,Innen,Edit"}));
+  EXPECT_TRUE(InputLog().empty());
 }
 
 TEST_F(KeyVerbs, SendKeyToControlWithAnIdThatIsNoNumberFailsByTheSearch) {

@@ -164,6 +164,13 @@ TEST_F(MouseTest, TheCaptionMustBeWholeAndOfAForm) {
   EXPECT_EQ(Log(), Lines{"Fehler in Funktion MouseClickbyWindowOffset:Fenster konnte nicht gefunden werden."});
 }
 
+TEST_F(MouseTest, AnEmptyCaptionIsNotThatOfAnyForm) {
+  Form("Zahlungen", 0, 0);
+  EXPECT_FALSE(RunLines({"MOUSECLICKBYWINDOWOFFSET=,LEFT,10,20"}));
+  EXPECT_TRUE(InputLog().empty());
+  EXPECT_EQ(Log(), Lines{"Fehler in Funktion MouseClickbyWindowOffset:Fenster konnte nicht gefunden werden."});
+}
+
 TEST_F(MouseTest, AnOffsetThatIsNoNumberIsAFault) {
   Form("Zahlungen", 0, 0);
   for (const char* offsets : {"x,0", "0,x", ",0", "0"}) {
