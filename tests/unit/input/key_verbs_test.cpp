@@ -1,5 +1,6 @@
 // The verbs that send keys.
 #include "engine/state.h"
+#include "environment/window_order.h"
 #include "frame/frmStatus.h"
 #include "platform/messages.h"
 #include "platform/simulated/desktop.h"
@@ -60,10 +61,11 @@ TEST_F(KeyVerbs, SendKeyPumpsBeforeTheKeys) {
 
 TEST_F(KeyVerbs, TheVerbsWithAWindowPumpBetweenTheSearchAndTheKeys) {
   frmStatus.Show();
+  basAPI::SetTopMost(frmStatus.hWnd());  // as a press of the hot key does
   for (const char* line : {"SENDKEY2=a,7,Zahlungen,Edit", "SENDKEY2WINDOW=a,Zahlungen"}) {
     Activate(dialog_);
-    // Posted in the pause of the search at the window that it finds.
-    Schedule(5, [] { platform::PostMessageA(frmStatus.hWnd(), platform::WM_COMMAND, 999, 0); });
+    // Posted in the pause of the search at the window that it finds, which is the second one from the top.
+    Schedule(15, [] { platform::PostMessageA(frmStatus.hWnd(), platform::WM_COMMAND, 999, 0); });
     At(frmStatus.hWnd()).received.clear();
     bool joined = false;
     At(frmStatus.hWnd()).procedure = [&](const Message& message) -> std::optional<std::int32_t> {
@@ -141,6 +143,13 @@ TEST_F(KeyVerbs, SendKeyToControlDoesNotReachAControlOfAWindowInsideTheMainWindo
   AddWindow({.className = "Edit", .parent = inner, .id = 7});
   EXPECT_FALSE(RunLines({"SENDKEY2=a,7,Innen,Edit"}));
   EXPECT_TRUE(InputLog().empty());
+}
+
+TEST_F(KeyVerbs, SendKeyToControlLooksBelowAControlThatStandsInForTheWindow) {
+  const auto outer = AddWindow({.className = "Feld", .parent = main_, .id = 7});
+  const auto inner = AddWindow({.className = "Feld", .parent = outer, .id = 7});
+  EXPECT_TRUE(RunLines({"SENDKEY2=a,7,Innen,Feld"}));
+  EXPECT_EQ(TypedText(inner), "a");
 }
 
 TEST_F(KeyVerbs, SendKeyToControlWithAnIdThatIsNoNumberFailsByTheSearch) {
