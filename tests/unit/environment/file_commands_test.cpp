@@ -182,6 +182,13 @@ TEST_F(WaitForFileTest, CancelReachesAWaitingRun) {
   ExpectLog(Header("A.MAK") + Lines{"<Cancel>", "Datei existiert nicht mehr: C:\\x\\nie.txt", kStopped, kStars});
 }
 
+TEST_F(WaitForFileTest, EventsRunInFrontOfThePause) {
+  frmStatus.Show();
+  Schedule(100, [] { Click(frmStatus.cmdCancel); });
+  EXPECT_TRUE(WaitForFile("C:\\x\\nie.txt"));
+  EXPECT_EQ(Clock(), 2 * 500);
+}
+
 TEST_F(WaitForFileTest, CancelReachesARunThatWaitsForAGrowingFile) {
   StartProgram();
   MacroEntry(1, "TeRu,A.MAK");
@@ -236,6 +243,13 @@ TEST_F(WaitForFileTest, APatternWithoutADotMeansFilesWithoutAnExtension) {
   PutFile("C:\\x\\a.txt", "22");
   EXPECT_TRUE(WaitForFile("C:\\x\\*"));
   ExpectLog({Reading(1)});
+}
+
+TEST_F(WaitForFileTest, AQuestionMarkMakesNoPattern) {
+  PutFile("C:\\x\\a.txt", "1");
+  StopAt(10000);
+  EXPECT_TRUE(WaitForFile("C:\\x\\?.txt"));
+  ExpectLog({"Datei existiert nicht mehr: C:\\x\\?.txt"});
 }
 
 TEST_F(WaitForFileTest, APatternIsWaitedForUntilAFileIsThere) {
@@ -334,9 +348,10 @@ TEST_F(DisplayStatusTest, BothVerbs) {
 class CloseWindowTest : public SystemTest {
  protected:
   // A window that answers the message to close with this number.
-  static std::int32_t Window(const std::string& title, std::int32_t answer) {
+  static std::int32_t Window(const std::string& title, std::int32_t answer, std::int32_t parent = 0) {
     return AddWindow({.className = "ThunderRT6FormDC",
                       .text = title,
+                      .parent = parent,
                       .procedure = [answer](const Message& message) -> std::optional<std::int32_t> {
                         if (message.number != platform::WM_CLOSE) return std::nullopt;
                         return answer;
@@ -376,6 +391,15 @@ TEST_F(CloseWindowTest, AnAnswerOtherThan0IsAFailure) {
 TEST_F(CloseWindowTest, WithoutAWindowTheMessageGoesToNoneAndCountsAsClosed) {
   EXPECT_TRUE(CloseWindow("fehlt", "1"));
   ExpectLog({"Fenster wurde geschlossen."});
+  EXPECT_EQ(run.LastError, "");
+}
+
+TEST_F(CloseWindowTest, WithoutAWindowAControlOfTheTargetWithThisTextIsSentTheMessage) {
+  const auto target = TargetWindow("TeRu");
+  const auto control = Window("Export", 0, target);
+  EXPECT_TRUE(CloseWindow("export", "1"));
+  EXPECT_EQ(TimesClosed(control), 1);
+  EXPECT_EQ(TimesClosed(target), 0);
 }
 
 // "IF GDPDU".
