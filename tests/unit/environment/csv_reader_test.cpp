@@ -260,6 +260,12 @@ TEST_F(CsvReaderTest, TheSeparatorMayHaveSeveralCharacters) {
   EXPECT_EQ(GetCSVValue("1"), "b|c");
 }
 
+TEST_F(CsvReaderTest, TheSeparatorKeepsItsBlanks) {
+  SetRecord("a;b; c; ", "; ");
+  EXPECT_EQ(GetCSVValue("0"), "a;b");
+  EXPECT_EQ(GetCSVValue("1"), "c");
+}
+
 TEST_F(CsvReaderTest, QuotesProtectNothingAndStay) {
   SetRecord("\"a;b\";");
   EXPECT_EQ(GetCSVValue("0"), "\"a");

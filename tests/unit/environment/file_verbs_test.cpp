@@ -130,6 +130,12 @@ TEST_F(DeleteFileTest, FilesInTheCurrentFolderAndOnADriveAlone) {
   EXPECT_FALSE(FileExists("C:\\arbeit\\a.txt"));
   EXPECT_FALSE(FileExists("C:\\arbeit\\b.txt"));
   EXPECT_TRUE(FileExists("C:\\arbeit\\c.txt"));
+  PutFolder("C:\\platte");
+  SetDrive('D', HostPath("C:\\platte"));
+  PutFile("D:\\c.txt", "x");
+  EXPECT_TRUE(DeleteFile("D:c*.*"));
+  EXPECT_FALSE(FileExists("D:\\c.txt"));
+  EXPECT_TRUE(FileExists("C:\\arbeit\\c.txt"));
 }
 
 TEST_F(DeleteFileTest, AllThreeVerbs) {
@@ -176,11 +182,14 @@ TEST_F(DeleteFolderTest, ReadOnlyContentGoesToo) {
   EXPECT_FALSE(FolderExists("C:\\x\\ordner"));
 }
 
-TEST_F(DeleteFolderTest, ABackslashAtTheEndChangesNothingButTheLog) {
-  PutFile("C:\\x\\ordner\\a.txt", "x");
-  EXPECT_TRUE(DeleteFolder("C:\\x\\ordner\\"));
-  EXPECT_FALSE(FolderExists("C:\\x\\ordner"));
-  ExpectLog({"Ordner gelöscht:C:\\x\\ordner\\"});
+TEST_F(DeleteFolderTest, BackslashesAtTheEndChangeNothingButTheLog) {
+  // "CREATEDIR" yields a path with several.
+  for (const char* folder : {"C:\\x\\ordner\\", "C:\\x\\ordner\\\\\\"}) {
+    PutFile("C:\\x\\ordner\\a.txt", "x");
+    EXPECT_TRUE(DeleteFolder(folder));
+    EXPECT_FALSE(FolderExists("C:\\x\\ordner"));
+  }
+  ExpectLog({"Ordner gelöscht:C:\\x\\ordner\\", "Ordner gelöscht:C:\\x\\ordner\\\\\\"});
 }
 
 TEST_F(DeleteFolderTest, ADriveIsRefusedUntouched) {
@@ -446,6 +455,8 @@ TEST_F(CopyFolderTest, ABackslashAloneIsTheRootOfTheDrive) {
   PutFile("C:\\x\\tief\\a.txt", "a");
   EXPECT_TRUE(CopyFolder("\\", "C:\\ziel"));
   EXPECT_EQ(GetFile("C:\\ziel\\x\\tief\\a.txt"), "a");
+  EXPECT_TRUE(CopyFolder("C:\\", "C:\\noch eins"));
+  EXPECT_EQ(GetFile("C:\\noch eins\\x\\tief\\a.txt"), "a");
   EXPECT_TRUE(CopyFolder("C:\\x\\tief", "\\"));
   EXPECT_EQ(GetFile("C:\\tief\\a.txt"), "a");
 }

@@ -85,6 +85,8 @@ TEST_F(ResultParsingTest, WithoutACurrentRowItFails) {
   clients = {};
   ExpectFailure("C:\\x\\1\\2\\Anl\\x", kNoRow);
   ExpectFailure("ohne Pfad", kNoRow);
+  // The data directory is looked for first.
+  ExpectLog(std::vector<std::string>(5, kDestination));
 }
 
 TEST_F(ResultParsingTest, ARowThatBeginsWithNoDateFails) {
