@@ -55,7 +55,7 @@ int ChooseMacro(const std::string& ini, const std::string& caption) {
 bool IsListed(const std::vector<std::string>& list, int number) {
   for (const std::string& element : list) {
     bool equal = true;
-    Skip([&] { equal = runtime::ToLong(element) == number; });
+    Skip([&] { equal = runtime::ToDouble(element) == number; });
     if (equal) return true;
   }
   return false;

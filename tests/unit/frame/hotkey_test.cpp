@@ -340,6 +340,17 @@ TEST_F(HotkeyTest, AnEmptyElementOfFilesIsNoNumberEither) {
   EXPECT_EQ(dialogs_, 1);
 }
 
+TEST_F(HotkeyTest, ANumberOfNoEntryListsNothingHoweverLargeItIs) {
+  MacroEntry(1, "Eins,A.MAK");
+  ConfirmClients(4);
+  for (const char* files : {"16", "-1", "40000", "99999999999"}) {
+    Setting("Makro-Fibu", "Files", files);
+    TargetWindow("Eins");
+    PressHotKey();
+    EXPECT_EQ(dialogs_, 0) << files;
+  }
+}
+
 TEST_F(HotkeyTest, AnEmptyListOfFilesListsNothing) {
   Setting("Makro-Fibu", "Files", "");
   MacroEntry(1, "Eins,A.MAK");
@@ -560,11 +571,13 @@ TEST_F(HotkeyTest, TheStatusDialogIsOnTheScreenDuringTheRun) {
 TEST_F(HotkeyTest, EventsRunOnceBeforeTheStatusDialogIsShown) {
   MacroEntry(1, "TeRu,A.MAK");
   std::vector<bool> shown;
+  bool topMost = false;
   const std::int32_t ours = AddWindow({.className = "X",
                                        .text = "",
                                        .process = kOwnProcess,
                                        .procedure = [&](const Message&) -> std::optional<std::int32_t> {
                                          shown.push_back(frmStatus.Visible());
+                                         topMost = At(frmStatus.Window()).topMost;
                                          return 0;
                                        }});
   TargetWindow("TeRu");
@@ -572,6 +585,7 @@ TEST_F(HotkeyTest, EventsRunOnceBeforeTheStatusDialogIsShown) {
   platform::PostMessageA(ours, 1000, 0, 0);
   forms::Pump();
   EXPECT_EQ(shown, std::vector<bool>{false});
+  EXPECT_TRUE(topMost);
   ExpectLog(RunOf("A"));
 }
 
