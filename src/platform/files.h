@@ -67,7 +67,8 @@ void CreateDirectoryA(const std::string& lpPathName);
 // Removes an empty folder. One that holds something raises PathAccess.
 void RemoveDirectoryA(const std::string& lpPathName);
 
-// Makes all missing directories of a path that ends in a backslash. False when the system refuses.
+// Makes all missing directories of a path that ends in a backslash. False when the system refuses. Faults:
+// FunctionMissing without the library that holds it, imagehlp.dll.
 bool MakeSureDirectoryPathExists(const std::string& DirPath);
 
 // Puts the path of something that exists, with all short names in it made long, into lpszLongPath and yields its

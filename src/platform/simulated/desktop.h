@@ -47,6 +47,9 @@ constexpr std::uint32_t BS_AUTORADIOBUTTON = 9;
 constexpr std::uint32_t CBS_DROPDOWNLIST = 3;
 constexpr std::uint32_t LVS_SINGLESEL = 4;
 
+// What the file dialog tells when the chosen file has another extension than the default one.
+constexpr std::uint32_t OFN_EXTENSIONDIFFERENT = 0x400;
+
 // The states of a list row.
 constexpr std::uint32_t LVIS_FOCUSED = 1;
 constexpr std::uint32_t LVIS_SELECTED = 2;
@@ -121,9 +124,9 @@ bool RunNextEvent();
 // Lets the other processes run and handles what is posted to the program's own windows. Part of a pump.
 void HandleOwnMessages();
 
-// Lets an operation fail, by its name in the platform headers, so many times (-1: always, 0: never again), from the
-// first call on or after so many that work. It then yields what the system yields on failure, or raises the fault where
-// it raises faults.
+// Lets an operation, or a library, fail, by its name in the platform headers, so many times (-1: always, 0: never
+// again), from the first call on or after so many that work. It then yields what the system yields on failure, or
+// raises the fault where it raises faults.
 void Fail(const std::string& operation, int times = -1, int after = 0,
           runtime::FaultNumber fault = runtime::FaultNumber::AccessDenied);
 bool Fails(const std::string& operation);           // for the implementation: counts down

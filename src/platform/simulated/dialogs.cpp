@@ -5,6 +5,7 @@
 #include "platform/simulated/host_paths.h"
 #include "platform/simulated/modal.h"
 #include "platform/simulated/state.h"
+#include "runtime/text.h"
 
 namespace platform {
 namespace simulated {
@@ -19,6 +20,10 @@ std::int32_t AddBox(const std::string& text, const std::string& caption) {
   AddWindow({.className = "Static", .text = text, .parent = box, .id = kStaticId});
   Activate(box);
   return box;
+}
+
+bool HasOtherExtension(const std::string& path, const std::string& extension) {
+  return !extension.empty() && !runtime::EqualIgnoringCase(path.substr(path.rfind('.') + 1), extension);
 }
 
 // The file that the user chooses, or nothing when he cancels.
@@ -41,6 +46,7 @@ bool RunFileDialog(const std::string& operation, OPENFILENAME& record) {
   const std::string path = ChosenFile(record);
   if (path.empty() || path.size() >= record.lpstrFile.size()) return false;
   record.lpstrFile.replace(0, path.size() + 1, path.c_str(), path.size() + 1);
+  if (HasOtherExtension(path, record.lpstrDefExt)) record.Flags |= OFN_EXTENSIONDIFFERENT;
   // As the real dialog does: relative paths are looked for beside the file chosen last.
   TheDesktop().currentDirectory = FolderOf(FullPath(path));
   return true;

@@ -174,6 +174,7 @@ void RemoveDirectoryA(const std::string& lpPathName) {
 
 // The text behind the last backslash is no folder's name.
 bool MakeSureDirectoryPathExists(const std::string& DirPath) {
+  RaiseIfFailing("imagehlp.dll");
   if (Fails("MakeSureDirectoryPathExists")) return false;
   const std::size_t end = DirPath.rfind('\\');
   if (end == std::string::npos) return true;

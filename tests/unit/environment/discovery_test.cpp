@@ -100,6 +100,12 @@ TEST_F(DiscoveryTest, BlanksInsideTheRegistryValueStayAsTheyStand) {
   ExpectLog({"GetTeRuDestination (2. RegValue): C:\\Te Ru ", "Ausgabeverzeichnis erstellt: C:\\Te Ru \\"});
 }
 
+TEST_F(DiscoveryTest, ARegistryValueThatIsANumberIsTakenByItsDigits) {
+  Registry()[kKey]["Teru"] = {platform::REG_DWORD, std::string("\x39\x30\0\0", 4)};
+  EXPECT_EQ(GetTeRuDestination(), "12345");
+  ExpectLog({"GetTeRuDestination (2. RegValue): 12345", "Ausgabeverzeichnis erstellt: 12345\\"});
+}
+
 TEST_F(DiscoveryTest, NothingIsKeptBetweenTwoCalls) {
   EXPECT_EQ(GetTeRuDestination(), "C:\\TeRu");
   Installed("C:\\Neu");
@@ -185,6 +191,14 @@ TEST_F(AskUserTest, AnEmptyRegistryValueCountsAsMissing) {
   Installed("");
   AnswerFileDialog("C:\\Prog\\tarven.exe");
   EXPECT_EQ(GetTeRuDestination(), "C:\\Prog");
+}
+
+TEST_F(AskUserTest, ARegistryValueOfBlanksCountsAsMissing) {
+  Installed("   ");
+  PutFile(kProgram + "\\   \\Config\\Setup.cfg", "[TeRu Setup]\r\nTERUData=C:\\Daten\r\n");
+  AnswerFileDialog("C:\\Prog\\tarven.exe");
+  EXPECT_EQ(GetTeRuDestination(), "C:\\Prog");
+  ExpectLog({"GetTeRuDestination (3. FolderSelect): C:\\Prog", "Ausgabeverzeichnis erstellt: C:\\Prog\\"});
 }
 
 TEST_F(AskUserTest, ARegistryValueOfAnotherTypeCountsAsMissing) {

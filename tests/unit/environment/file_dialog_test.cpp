@@ -75,6 +75,16 @@ TEST_F(FileDialogTest, TheChosenPathComesBackWithoutItsNuls) {
   EXPECT_EQ(ShowFileDialog(dialog), "C:\\x\\datei.txt");
 }
 
+TEST_F(FileDialogTest, TheFlagsComeBackAsTheDialogLeavesThem) {
+  PutFile("C:\\x\\datei.txt", "");
+  AnswerFileDialog("C:\\x\\datei.txt");
+  FileDialog dialog;
+  dialog.flags = 4100;
+  dialog.defaultExtension = "exe";
+  ShowFileDialog(dialog);
+  EXPECT_EQ(dialog.flags, 4100 | OFN_EXTENSIONDIFFERENT);
+}
+
 TEST_F(FileDialogTest, CancelYieldsNothing) {
   FileDialog dialog;
   dialog.fileName = "tarven.exe";

@@ -134,6 +134,8 @@ TEST_F(RegistryTest, ARefusedWriteIsNotReported) {
   for (const char* operation : {"RegCreateKeyA", "RegSetValueExA"}) {
     Fail(operation, 1);
     Write("neu");
+    // The code of the last call, which closes the key, or no key.
+    EXPECT_EQ(state.RegResult == 0, operation == std::string("RegSetValueExA"));
     EXPECT_EQ(Read(), Text("alt")) << operation;
   }
   EXPECT_EQ(basMain::run.LastError, "");

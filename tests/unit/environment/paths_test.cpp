@@ -91,6 +91,13 @@ TEST_F(PathsTest, CreatePathOfNamesThatTheSystemRefusesIsFalse) {
   EXPECT_EQ(GetFile("C:\\datei"), "x");
 }
 
+TEST_F(PathsTest, CreatePathOnASystemThatLacksTheFunctionIsAFault) {
+  Fail("imagehlp.dll", 1, 0, runtime::FaultNumber::FunctionMissing);
+  EXPECT_FALSE(CreatePath("C:\\a"));
+  EXPECT_EQ(basMain::run.LastError, "Fehler in Funktion CreatePath:Angegebene DLL-Funktion nicht gefunden");
+  EXPECT_TRUE(Log().empty());
+}
+
 TEST_F(PathsTest, CreatePathOfNothingMeansTheRoot) {
   EXPECT_TRUE(CreatePath(""));
   ExpectLog({"Ausgabeverzeichnis erstellt: \\"});

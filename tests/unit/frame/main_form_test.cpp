@@ -122,6 +122,13 @@ TEST_F(MainFormTest, TheRightMouseButtonOpensTheMenu) {
   EXPECT_THROW(forms::Pump(), ProgramEnded);
 }
 
+TEST_F(MainFormTest, TheRightMouseButtonOpensTheMenuOnAnyScreen) {
+  SetTwipsPerPixel(10, 15);
+  WhenMenu("Beenden");
+  MouseAtTray(517);
+  EXPECT_THROW(forms::Pump(), ProgramEnded);
+}
+
 TEST_F(MainFormTest, OtherMouseEventsDoNothing) {
   WhenMenu("Beenden");
   for (const std::uint32_t message : {512u, 513u, 514u, 515u, 516u, 518u, 519u, 520u}) {

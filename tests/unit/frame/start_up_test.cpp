@@ -1,4 +1,6 @@
 // What the program does before the first press.
+#include <algorithm>
+
 #include "environment/file_system.h"
 #include "frame/frmMain.h"
 #include "frame/frmStatus.h"
@@ -82,6 +84,11 @@ TEST_F(StartUpTest, TheIconShowsTheIdleProgram) {
 TEST_F(StartUpTest, TheHotKeyIsAltF12) {
   frmMain.Load();
   EXPECT_TRUE(HotKeyRegistered(1, 123));
+  support::PressHotKey();
+  const std::vector<Message>& received = At(frmMain.Window()).received;
+  const auto press = std::ranges::find(received, platform::WM_HOTKEY, &Message::number);
+  ASSERT_NE(press, received.end());
+  EXPECT_EQ(press->wParam, 1);
 }
 
 TEST_F(StartUpTest, NothingIsShown) {

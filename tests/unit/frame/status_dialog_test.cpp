@@ -42,6 +42,8 @@ TEST_F(StatusDialogTest, TheFreshDialog) {
   EXPECT_EQ(frmStatus.cmdOK.Caption(), "&OK");
   EXPECT_EQ(frmStatus.cmdCancel.Caption(), "A&bbrechen");
   EXPECT_EQ(frmStatus.cmdOK.role, forms::ButtonRole::Default);
+  EXPECT_EQ(frmStatus.cmdResume.role, forms::ButtonRole::Plain);
+  EXPECT_EQ(frmStatus.cmdCancel.role, forms::ButtonRole::Plain);
   ExpectButtons(false, false, true);
 }
 
@@ -341,6 +343,23 @@ TEST_F(StatusDuringRunTest, ResumeEmptiesTheLabelsAndDisablesItself) {
   EXPECT_EQ(status, "");
   EXPECT_FALSE(resume);
   EXPECT_EQ(icon, kRunning);
+}
+
+TEST_F(StatusDuringRunTest, ResumeEmptiesTheLabelsBeforeEventsRun) {
+  RunMacro({"RAISEERROR=kaputt", "MSG=1"});
+  std::string info = "?", status = "?";
+  const std::int32_t ours = AddWindow({.className = "X",
+                                       .text = "",
+                                       .process = kOwnProcess,
+                                       .procedure = [&](const Message&) -> std::optional<std::int32_t> {
+                                         info = frmStatus.lblInfo.Caption();
+                                         status = frmStatus.lblStatus.Caption();
+                                         return 0;
+                                       }});
+  platform::PostMessageA(ours, 1000, 0, 0);
+  frmStatus.cmdResume_Click();
+  EXPECT_EQ(info, "");
+  EXPECT_EQ(status, "");
 }
 
 TEST_F(StatusDuringRunTest, ResumeKeepsTheVariables) {
