@@ -277,6 +277,19 @@ TEST_F(HotkeyTest, WithMandantenDlg1NoDialogIsShownForAnUnlistedMacro) {
   EXPECT_EQ(dialogs_, 1);
 }
 
+TEST_F(HotkeyTest, APressWithoutTheDialogKeepsTheClientThatWasConfirmedLast) {
+  MacroEntry(1, "Eins,QUMAFIBU.MAK");
+  MacroEntry(2, "Zwei,A.MAK");
+  Macro("QUMAFIBU.MAK", {"MSG=1"});
+  Macro("A.MAK", {"MSG=2"});
+  TargetWindow("Eins/4711/2005/x");
+  PressHotKey();
+  TargetWindow("Zwei/4712/2006/x");
+  PressHotKey();
+  EXPECT_EQ(Log().at(Log().size() - 3), "MSG: 2");
+  EXPECT_EQ(clients.ContextPath, "\\4711\\2005");
+}
+
 TEST_F(HotkeyTest, AnyValueOtherThan1ShowsNoDialog) {
   MacroEntry(1, "TeRu,A.MAK");
   Setting("Makro-Fibu", "Files", "1");

@@ -76,6 +76,17 @@ TEST_F(KeyDelivery, TheStatusDialogStepsBackForTheKeysAlone) {
   EXPECT_TRUE(StatusIsTopMost());
 }
 
+TEST_F(KeyDelivery, TheWindowIsAboveTheStatusDialogWhenTheKeysArrive) {
+  std::int32_t first = 0;
+  At(field_).procedure = [&](const Message& message) -> std::optional<std::int32_t> {
+    if (message.number == platform::WM_CHAR) first = platform::FindWindowA(nullptr, nullptr);
+    return std::nullopt;
+  };
+  DeliverKeys(main_, window_, field_, "a");
+  EXPECT_EQ(first, window_);
+  EXPECT_EQ(platform::FindWindowA(nullptr, nullptr), frmStatus.hWnd());
+}
+
 TEST_F(KeyDelivery, ABadStringSendsNothingAndTheQueuesAreParted) {
   DeliverKeys(main_, window_, field_, "a{SPACE}b");
   EXPECT_EQ(InputLog(), (Lines{Attach(1), "SetForegroundWindow " + std::to_string(window_),
