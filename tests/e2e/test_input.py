@@ -115,6 +115,31 @@ class ClicksTest(InputTest):
         wait_until(lambda: len(self.clicks()) == 2, 10, "the clicks")
         self.assertEqual(self.clicks(), [f"links: {left + 10}/{top + offset}", f"rechts: {left + 11}/{top + offset}"])
 
+    def test_a_click_lands_where_the_pointer_was_moved(self):
+        left, _, _, bottom = self.window.place
+        x, y = left + 10, bottom - 12
+        self.run_macro(f"MOUSEMOVE={x},{y}\nMOUSECLICK=right\nMOUSEMOVE={x + 1},{y - 1}\nMOUSECLICK=left\n")
+        wait_until(lambda: len(self.clicks()) == 2, 10, "the clicks")
+        self.assertEqual(self.clicks(), [f"rechts: {x}/{y}", f"links: {x + 1}/{y - 1}"])
+        moved = [line for line in self.log() if line.startswith("Maus")]
+        self.assertEqual(
+            moved,
+            [
+                f"Maus an Koordinate bewegt: {x}/{y}",
+                "Maustaste gedrückt: 2",
+                f"Maus an Koordinate bewegt: {x + 1}/{y - 1}",
+                "Maustaste gedrückt: 1",
+            ],
+        )
+
+    def test_a_click_into_a_control_gives_it_the_focus(self):
+        elsewhere = "SENDKEY2={HOME},2401,TeRu Zahlungsverkehr,SysListView32\n"
+        self.run_macro(elsewhere + "MOUSEMOVETOCTL=thunderrt6textbox\nMOUSECLICK=LEFT\nWAIT=300\nSENDKEY=abc\n")
+        self.assertEqual(self.typed(), "abc")
+        left, top, _, _ = self.field.place
+        self.assertIn(f"Maus an Koordinate bewegt: {left + 5}/{top + 5}", self.log())
+        self.assertIn(f"Die Maus wurde positioniert. ({self.field.handle})", self.log())
+
 
 class ClipboardTest(InputTest):
     def test_the_macro_saves_two_statements_into_one_file(self):
