@@ -56,18 +56,27 @@ class MerlaTest(EndToEndTest):
         for name in ("QUMAEXP.INI", *names):
             shutil.copy(ROOT / "demo" / name, self.folder)
 
-    def test_dates_arrive_in_the_boxes_of_their_fields(self):
-        main = self.start_merla()
+    def dates_received(self, *arguments):
+        """Writes two dates into the fields of the stand-in's period and yields the texts that their boxes got."""
+        main = self.start_merla("2100", *arguments)
         self.probe.post(main, WM_COMMAND, 3202)
         self.probe.window("Buchungsexport")
         self.lay_macro("SETMERLADATE=01.02.2003,31.12.2004,Buchungsexport,42,0,1\n", fragment="Buchungsexport")
         self.start_program()
         self.press("Buchungsexport")
         self.wait_run_ended()
-        received = [line for line in self.journal() if line.startswith("Text 42/")]
+        return [line for line in self.journal() if line.startswith("Text 42/")]
+
+    def test_dates_arrive_in_the_boxes_of_their_fields(self):
         expected = ["Text 42/1/3: 01", "Text 42/1/4: 02", "Text 42/1/2: 2003"]
         expected += ["Text 42/2/3: 31", "Text 42/2/4: 12", "Text 42/2/2: 2004"]
-        self.assertEqual(received, expected)
+        self.assertEqual(self.dates_received(), expected)
+
+    def test_fields_of_month_and_year_get_no_day(self):
+        expected = ["Text 42/1/4: 02", "Text 42/1/2: 2003", "Text 42/2/4: 12", "Text 42/2/2: 2004"]
+        self.assertEqual(self.dates_received("--dates", "month"), expected)
+        refused = [line.split(" ", 2)[2] for line in self.log() if line.startswith("<< ")]
+        self.assertEqual(refused, ["01 Index: 0Dayval: ", "31 Index: 1Dayval: "])
 
     def choose_years_from(self, row):
         """Clicks the check box of a row, which takes all later years with it, and confirms."""
