@@ -173,6 +173,11 @@ TEST_F(InputAnlTest, WithoutAClientTheTextStaysAndTheOptionsGoToAFolderWithoutNu
             Lines{"Ausgabeverzeichnis erstellt: C:\\TeRu\\Extern\\Berater-\\", "ShowInputANL"});
 }
 
+TEST_F(InputAnlTest, ACaptionWithoutAYearNamesNoClientEither) {
+  EXPECT_EQ(Question("TeRu - 12/4711/Anlagen", "Mandant %1, Jahr %2?"), "Mandant %1, Jahr %2?");
+  ExpectLog(kDestination + Lines{"ShowInputANL"});
+}
+
 TEST_F(InputAnlTest, NumbersOfAnEarlierDialogAreForgotten) {
   Question(kCaption, "");
   TargetWindow("Andere Anwendung");
