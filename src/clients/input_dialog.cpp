@@ -52,7 +52,7 @@ bool AskUser(InputDialog& dialog, const std::function<bool()>& fill) {
     }
     dialog.ShowModal();
   } catch (const runtime::Fault&) {
-    if (!dialog.Visible()) dialog.Unload();
+    dialog.Unload();
     throw;
   }
   if (dialog.InputState() == InputDialog::kCancelled) run.StopRun = true;

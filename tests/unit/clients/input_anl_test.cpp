@@ -105,6 +105,7 @@ TEST_F(InputAnlTest, WordsPictureAndColumns) {
   User([] {
     EXPECT_EQ(At(frmInputANL.Window()).text, "TARVEN Datenexport");
     EXPECT_TRUE(At(frmInputANL.Window()).topMost);
+    EXPECT_TRUE(frmInputANL.style.resizable);
     EXPECT_EQ(frmInputANL.imgQuest.Icon(), "ICOQST");
     EXPECT_EQ(frmInputANL.Label1.Caption(), "GWG in Auswertungen:");
     EXPECT_EQ(frmInputANL.cmdOK.Caption(), "OK");

@@ -8,6 +8,7 @@
 #include "forms/simulated/user.h"
 #include "platform/messages.h"
 #include "platform/simulated/desktop.h"
+#include "runtime/fault.h"
 #include "support/press.h"
 
 namespace {
@@ -214,12 +215,28 @@ TEST_F(InputEstTest, EachCallOpensAFreshDialog) {
   EXPECT_TRUE(ShowInputDlg(""));
 }
 
-TEST_F(InputEstTest, WaitingMessagesAreHandledBeforeItIsShown) {
+TEST_F(InputEstTest, WaitingMessagesAreHandledBeforeItIsFilledAndShown) {
   User([] { Press(frmInputEST.cmdCancel); });
   const std::int32_t own = AddWindow({.className = "X", .process = kOwnProcess});
+  bool handled = false;
+  At(own).procedure = [&](const Message&) -> std::optional<std::int32_t> {
+    handled = true;
+    EXPECT_TRUE(At(frmInputEST.Window()).topMost);
+    EXPECT_FALSE(frmInputEST.Visible());
+    EXPECT_EQ(frmInputEST.lblInfo.Caption(), "");
+    return std::nullopt;
+  };
   platform::PostMessageA(own, 1024, 0, 0);
-  EXPECT_TRUE(ShowInputDlg(""));
-  EXPECT_EQ(At(own).received.size(), 1u);
+  EXPECT_TRUE(ShowInputDlg("Welche Mandanten?"));
+  EXPECT_TRUE(handled);
+}
+
+TEST_F(InputEstTest, AFaultWhileTheDialogWaitsClosesIt) {
+  User([] { throw runtime::Fault(runtime::FaultNumber::Overflow); });
+  EXPECT_FALSE(ShowInputDlg(""));
+  EXPECT_EQ(run.LastError, "Fehler in Funktion ShowInputDlg:Überlauf");
+  EXPECT_FALSE(frmInputEST.Loaded());
+  EXPECT_FALSE(run.StopRun);
 }
 
 TEST_F(InputEstTest, ANestedRunCannotAskWhileTheDialogWaits) {

@@ -92,6 +92,7 @@ TEST_F(InputMerAnlTest, WordsPictureAndColumns) {
   User([] {
     EXPECT_EQ(At(frmInputMerANL.Window()).text, "TARVEN Datenexport");
     EXPECT_TRUE(At(frmInputMerANL.Window()).topMost);
+    EXPECT_TRUE(frmInputMerANL.style.resizable);
     EXPECT_EQ(frmInputMerANL.imgQuest.Icon(), "ICOQST");
     EXPECT_EQ(frmInputMerANL.lblInfo.Caption(), "Jahre von 4711, %2, 4711?");
     EXPECT_EQ(frmInputMerANL.cmdOK.Caption(), "OK");

@@ -124,6 +124,7 @@ TEST_F(InputMerFibTest, WordsPictureAndColumns) {
   Show([] {
     EXPECT_EQ(At(frmInputMerFib.Window()).text, "TARVEN Datenexport");
     EXPECT_TRUE(At(frmInputMerFib.Window()).topMost);
+    EXPECT_TRUE(frmInputMerFib.style.resizable);
     EXPECT_EQ(frmInputMerFib.imgQuest.Icon(), "ICOQST");
     EXPECT_EQ(frmInputMerFib.lblInfo.Caption(), "Mandanten?");
     EXPECT_EQ(frmInputMerFib.Label3.Caption(), "Mandantendatei:");
