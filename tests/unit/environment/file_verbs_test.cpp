@@ -150,6 +150,9 @@ TEST_F(DeleteFileTest, WithoutAFileSystemItFailsInTheHandler) {
   FileSystemState.reset();
   EXPECT_FALSE(DeleteFile("C:\\x\\a.txt"));
   EXPECT_EQ(run.LastError, "Fehler in Funktion DeleteFile:" + kNoFileSystem);
+  run.LastError.clear();
+  EXPECT_TRUE(DeleteFile("C:\\x\\fehlt.txt")) << "the look for the file takes an object of its own";
+  EXPECT_EQ(run.LastError, "");
 }
 
 // "DELETEFOLDER".
