@@ -1,6 +1,8 @@
 // The table of verbs, and the verbs that the dispatcher carries out itself, as far as a macro cannot show them.
 #include "engine/verbs.h"
 
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -153,6 +155,27 @@ TEST(VerbTableTest, NoVerbHasMoreArgumentsThanThereAre) {
 
 TEST(VerbTableTest, EachVerbIsCarriedOutBySomething) {
   for (const Verb& verb : Verbs()) EXPECT_NE(verb.handler, nullptr) << verb.word;
+}
+
+// The verbs of the guide with their arguments; a row names several verbs that take the same ones.
+std::map<std::string, std::string> VerbsOfTheGuide() {
+  std::ifstream file(SOURCE_DIRECTORY "/docs/macros.md");
+  const std::string guide{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  std::map<std::string, std::string> verbs;
+  for (const std::string& line : runtime::Split(guide.substr(guide.find("\n## The verbs\n")), '\n')) {
+    if (!line.starts_with("| `")) continue;
+    const Texts cells = runtime::Split(line, '|');
+    const Texts words = runtime::Split(cells[1], '`');
+    for (std::size_t i = 1; i < words.size(); i += 2)
+      EXPECT_TRUE(verbs.emplace(words[i], runtime::Trim(cells[2])).second) << words[i];
+  }
+  return verbs;
+}
+
+TEST(VerbTableTest, TheGuideHasEachVerbWithItsArguments) {
+  std::map<std::string, std::string> table;
+  for (const Verb& verb : Verbs()) table.emplace(verb.word, verb.arguments);
+  EXPECT_EQ(VerbsOfTheGuide(), table);
 }
 
 class VerbTest : public support::SystemTest {
