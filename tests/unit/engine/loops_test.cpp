@@ -65,6 +65,15 @@ TEST_F(LoopTest, CountBehindTheLastYearGoesOnWhileListRowsRemain) {
   EXPECT_EQ(run.LoopStart, 4);
 }
 
+TEST_F(LoopTest, CountGoesOnWhenTheListHasBecomeShorterThanItsIndex) {
+  run.YearIndex = 1;
+  automation.ListCount = 2;
+  automation.ListIndex = 3;
+  EXPECT_TRUE(LoopUntilCount());
+  EXPECT_TRUE(run.LoopBack);
+  EXPECT_EQ(run.LoopStart, 4);
+}
+
 TEST_F(LoopTest, CountEndsBehindTheLastYearOfTheLastListRow) {
   run.YearIndex = 1;
   automation.ListCount = 3;

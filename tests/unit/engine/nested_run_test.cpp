@@ -49,6 +49,7 @@ TEST_F(NestedRunTest, TheOuterRunGoesOnAtItsOwnIndexInTheNewTable) {
   EXPECT_TRUE(Run({"MSG=a", "WAITFORWINDOW=Später,1,,,0", "MSG=nie"}, {"MSG=0", "MSG=1", "MSG=2", "MSG=3"}));
   EXPECT_EQ(LogOfBoth(), (Texts{"MSG: 0", "MSG: 1", "MSG: 2", "MSG: 3", support::kCompleted, support::kStars, kWaited,
                                 "MSG: 2", "MSG: 3", support::kCompleted, support::kStars}));
+  EXPECT_EQ(run.CurrentLine, 9);  // counted on from the 5 of the inner run
 }
 
 TEST_F(NestedRunTest, AnAssignmentWhoseRecordIsGoneFailsTheRun) {
