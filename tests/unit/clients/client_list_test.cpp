@@ -317,6 +317,8 @@ TEST_F(ClientListTest, BasisnummerDecidesABranch) {
   Setting("Einkommensteuer", "Basisnummer", "1");
   EXPECT_TRUE(RunLines({"IF BASISNUMMER=1", "MSG=Basis", "ELSE", "MSG=Mandant", "ENDIF"}));
   EXPECT_EQ(Log()[0], "MSG: Basis");
+  EXPECT_TRUE(RunLines({"IF BASISNUMMER=0", "MSG=Basis", "ELSE", "MSG=Mandant", "ENDIF"}));
+  EXPECT_EQ(Log()[3], "MSG: Mandant");
 }
 
 }  // namespace

@@ -122,6 +122,11 @@ TEST_F(ProtocolTest, AddWritesAnEmptyLine) {
   EXPECT_EQ(LinesOf("C:\\QUMA\\x.txt"), (Lines{"", "a b"}));
 }
 
+TEST_F(ProtocolTest, AClosedProtocolTakesNoLine) {
+  EXPECT_TRUE(RunLines({"CREATEPROTOCOL=x.txt", "ADDPROTOCOL=1", "CLOSEPROTOCOL", "ADDPROTOCOL=verloren"}));
+  EXPECT_EQ(LinesOf("C:\\QUMA\\x.txt"), Lines{"1"});
+}
+
 TEST_F(ProtocolTest, ClosingTwiceDoesNothing) {
   EXPECT_TRUE(RunLines({"CREATEPROTOCOL=x.txt", "CLOSEPROTOCOL", "CLOSEPROTOCOL", "MSG=1"}));
   ExpectLog(Completed({"MSG: 1"}));
