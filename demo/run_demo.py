@@ -52,9 +52,9 @@ class Demo:
 
     def start_programs(self):
         self.desktop.program(self.program / "QUMAEXP.EXE", cwd=self.program)
-        self.desktop.x_window("^Wine System Tray$", 20)
+        self.desktop.x_window("^Wine System Tray$")
         self.desktop.program(self.destination / "TERU.EXE", cwd=self.destination)
-        self.desktop.x_window(EXPORT, 20)
+        self.desktop.x_window(EXPORT)
         self.desktop.activate(TERU)
         self.shot("client-open", "The client is open; the program waits in the notification area.")
 
@@ -65,15 +65,15 @@ class Demo:
         self.desktop.key("Return")
 
     def watch(self):
-        wait_until(lambda: any(self.destination.rglob(FILES[-1])), 30, "the start of the export")
+        wait_until(lambda: any(self.destination.rglob(FILES[-1])), "the start of the export")
         self.shot("export-running", "Confirmed; the macro has started the export and waits for its file.")
-        wait_until(lambda: len(self.desktop.x_windows(EXPORT)) > 1 or self.ended(), 30, "the end of the export")
+        wait_until(lambda: len(self.desktop.x_windows(EXPORT)) > 1 or self.ended(), "the end of the export")
         self.shot("export-finished", "The suite reports the end; the macro will answer its message.")
-        wait_until(self.ended, 30, "the end of the run")
+        wait_until(self.ended, "the end of the run")
         self.desktop.activate(DIALOG)
         self.shot("run-finished", "The run is finished.")
         self.desktop.key("Return")
-        wait_until(lambda: not self.desktop.x_windows(DIALOG), 10, "the status dialog to close")
+        wait_until(lambda: not self.desktop.x_windows(DIALOG), "the status dialog to close")
         self.shot("idle-again", "The status dialog is closed; the program waits for the next press.")
 
     def report(self):

@@ -34,7 +34,7 @@ def build(preset, totals):
     configured = run(["cmake", "--preset", preset], 300, stdout=subprocess.DEVNULL, cwd=ROOT) == 0
     # What can be built is built, so that one broken program does not hide the tests of the others.
     command = ["nice", "cmake", "--build", "--preset", preset, "--parallel", JOBS, "--", "-k", "0"]
-    if not configured or run(command, 1200, cwd=ROOT) != 0:
+    if not configured or run(command, 3000, cwd=ROOT) != 0:
         totals.add(f"building preset {preset}", 0, 1, time.monotonic() - start)
 
 
@@ -98,7 +98,7 @@ def google_counts(result):
 def google_suite(program, totals):
     result = RESULTS / f"{program.name}.json"
     command = [str(program), "--gtest_brief=1", f"--gtest_output=json:{result}"]
-    run_suite(totals, f"{program.name} (native)", 180, result, google_counts, command)
+    run_suite(totals, f"{program.name} (native)", 600, result, google_counts, command)
 
 
 def google_suite_under_wine(program, totals):
@@ -108,7 +108,7 @@ def google_suite_under_wine(program, totals):
     try:
         with Desktop(RESULTS / "prefix") as desktop:
             environment = desktop.environment
-            run_suite(totals, name, 180, result, google_counts, command, env=environment, stdin=subprocess.DEVNULL)
+            run_suite(totals, name, 600, result, google_counts, command, env=environment, stdin=subprocess.DEVNULL)
     except DesktopError as error:
         print(error)
         totals.add(name, 0, 1, 0)
@@ -141,17 +141,17 @@ def main():
     # The end-to-end tests wait for windows most of their time, so two halves of them run beside the native build, each
     # on a desktop of its own.
     folder = ROOT / "tests" / "e2e"
-    first = python_suite("end-to-end-1", folder, 560, quiet=True, pattern="test_[a-i]*.py")
-    second = python_suite("end-to-end-2", folder, 560, quiet=True, pattern="test_[!a-i]*.py")
+    first = python_suite("end-to-end-1", folder, 1500, quiet=True, pattern="test_[a-i]*.py")
+    second = python_suite("end-to-end-2", folder, 1500, quiet=True, pattern="test_[!a-i]*.py")
     other_prefix = {**os.environ, "E2E_PREFIX": "prefix-2"}
     with Suite(*first) as first_half, Suite(*second, env=other_prefix) as second_half:
         build("native", totals)
         google_suite(BUILD / "native" / "qumaexp_tests", totals)
         google_suite(BUILD / "native" / "platform_contract_tests", totals)
-        run_suite(totals, *python_suite("makrun", ROOT / "tests" / "makrun", 180))
+        run_suite(totals, *python_suite("makrun", ROOT / "tests" / "makrun", 600))
         first_half.finish(totals)
         # It needs makrun of the native build, and the desktop that the first half has left.
-        run_suite(totals, *python_suite("rehearsal", ROOT / "tests" / "rehearsal", 180))
+        run_suite(totals, *python_suite("rehearsal", ROOT / "tests" / "rehearsal", 600))
         second_half.finish(totals)
     print(f"== {time.monotonic() - start:.0f} s in all")
     print(f"{totals.passed} passed, {totals.failed} failed", flush=True)

@@ -26,7 +26,11 @@ class DesktopError(Exception):
     """Something that should be there is not; the text is a sentence for the user."""
 
 
-def wait_until(condition, seconds, what, interval=0.05):
+# Seconds; a machine with other work is slow.
+PATIENCE = 60
+
+
+def wait_until(condition, what, seconds=PATIENCE, interval=0.05):
     """Returns the first true value of the condition, or raises with a sentence that names what was waited for."""
     deadline = time.monotonic() + seconds
     while True:
@@ -201,8 +205,8 @@ class Desktop:
         )
         return result.stdout.split()
 
-    def x_window(self, title, seconds=10):
-        return wait_until(lambda: self.x_windows(title), seconds, f"a window titled {title!r}")[0]
+    def x_window(self, title):
+        return wait_until(lambda: self.x_windows(title), f"a window titled {title!r}")[0]
 
     def activate(self, title):
         self.command(["xdotool", "windowactivate", "--sync", self.x_window(title)])

@@ -2,7 +2,7 @@
 
 import time
 
-from harness import COMPLETED, STARS, TITLE, EndToEndTest, wait_until
+from harness import COMPLETED, PATIENCE, STARS, TITLE, EndToEndTest, wait_until
 from probe import BM_CLICK, WM_COMMAND, ProbeError
 
 RECORD = "Stammdaten"
@@ -69,7 +69,7 @@ class ClientRecordTest(EndToEndTest):
                 pass  # the program gives no answer while a verb waits
             return None
 
-        self.probe.post(wait_until(button, 20, f"failure {count} of the run"), BM_CLICK)
+        self.probe.post(wait_until(button, f"failure {count} of the run"), BM_CLICK)
         self.wait_log(CANCEL, times=count)
 
     def heard(self):
@@ -78,7 +78,7 @@ class ClientRecordTest(EndToEndTest):
 
     def assert_heard(self, expected):
         # What was posted may arrive behind the end of the run.
-        deadline = time.monotonic() + 5
+        deadline = time.monotonic() + PATIENCE
         while len(self.heard()) < len(expected) and time.monotonic() < deadline:
             time.sleep(0.05)
         self.assertEqual(self.heard(), expected)

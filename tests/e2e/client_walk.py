@@ -23,7 +23,7 @@ class ClientWalkTest(EndToEndTest):
         self.lay_macro(MACRO, fragment="Mandant öffnen", Einkommensteuer={"Veranlagungsjahr": years})
         main, _ = self.start_teru("--clients", str(count))
         self.probe.post(main, WM_COMMAND, MENU_CLIENTS)
-        self.probe.window("Mandant öffnen", 120)
+        self.probe.window("Mandant öffnen")
         self.start_program()
         self.press("Mandant öffnen")
         return self.dialog("alle Mandanten")

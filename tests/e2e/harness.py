@@ -12,7 +12,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 sys.path[:0] = [str(ROOT / "scripts"), str(pathlib.Path(__file__).resolve().parent)]
 
 from probe import WM_NULL, Probe, ProbeError  # noqa: E402
-from wine_desktop import BUILD, CODE_PAGE, WINDOWS_BUILD, Desktop, DesktopError, wait_until  # noqa: E402
+from wine_desktop import BUILD, CODE_PAGE, WINDOWS_BUILD, Desktop, DesktopError, PATIENCE, wait_until  # noqa: E402
 
 RESULTS = BUILD / "test"
 PROGRAM = "QUMAEXP.EXE"
@@ -22,6 +22,8 @@ REGISTRY_KEY = "Software\\TARVEN\\Setup\\Destinations"
 FORM_CLASS = "QumaForm"
 TITLE = "TARVEN Datenexport"
 STARS = "*" * 80
+# Seconds; a run has its prescribed pauses besides.
+RUN_PATIENCE = 3 * PATIENCE
 COMPLETED = "Die Verarbeitung ist erfolgreich abgeschlossen."
 CAPTION = "TeRu - 0012 / 4711 / 2005 / Finanzbuchhaltung"
 
@@ -109,7 +111,7 @@ class EndToEndTest(unittest.TestCase):
         def new():
             return [process for process in self.probe.processes(PROGRAM) if process not in before]
 
-        process = wait_until(new, 10, "the start of the program")[0]
+        process = wait_until(new, "the start of the program")[0]
         # It answers a message when it has come to wait for messages, behind the registration of the hot key.
         self.probe.send(self.main_form(process), WM_NULL)
         return process
@@ -121,7 +123,7 @@ class EndToEndTest(unittest.TestCase):
             windows = self.probe.windows("", visible=False, process=process)
             return [window for window in windows if window.class_name == FORM_CLASS]
 
-        return wait_until(look, 10, "the main form")[0]
+        return wait_until(look, "the main form")[0]
 
     def press(self, caption=CAPTION):
         """Puts the window in front and presses the hot key."""
@@ -131,30 +133,32 @@ class EndToEndTest(unittest.TestCase):
             # Windows hears nothing where the window manager had the window in front before.
             left, top, _, _ = self._windows_of(caption)[0].place
             self.desktop.click(left + 8, top + 60)  # the empty margin
-            self._wait_for_foreground(lambda: self._windows_of(caption), caption, 10)
+            self._wait_for_foreground(lambda: self._windows_of(caption), caption)
         self.desktop.key("alt+F12")
 
-    def bring_to_front(self, caption, seconds=10):
+    def bring_to_front(self, caption, seconds=PATIENCE):
         """Activates a window whose caption begins so, and waits until keys reach it."""
         self.desktop.activate("^" + re.sub(r"([][().])", r"\\\1", caption))
         self._wait_for_foreground(lambda: self._windows_of(caption), caption, seconds)
 
     def wait_in_front(self, window):
         """Waits until keys reach a window that comes to the front by itself."""
-        self._wait_for_foreground(lambda: [window], window.text, 10)
+        self._wait_for_foreground(lambda: [window], window.text)
 
-    def _wait_for_foreground(self, windows, caption, seconds):
+    def _wait_for_foreground(self, windows, caption, seconds=PATIENCE):
         """Windows hears of it later than the window manager."""
-        wait_until(
-            lambda: self.probe.foreground() in [window.handle for window in windows()], seconds, f"{caption!r} in front"
-        )
+
+        def in_front():
+            return self.probe.foreground() in [window.handle for window in windows()]
+
+        wait_until(in_front, f"{caption!r} in front", seconds)
 
     def _windows_of(self, caption):
         return [window for window in self.probe.windows() if window.text.startswith(caption)]
 
     # Windows of the program
 
-    def dialog(self, *texts, title=TITLE, seconds=10):
+    def dialog(self, *texts, title=TITLE):
         """Waits for a window of this title that shows these texts; the program's dialogs share one title."""
 
         def shows(window):
@@ -164,10 +168,10 @@ class EndToEndTest(unittest.TestCase):
                 return False  # it has closed meanwhile
             return all(text in shown for text in texts)
 
-        return self.probe.window(title, seconds, shows)
+        return self.probe.window(title, shows)
 
-    def status_dialog(self, *texts, seconds=10):
-        return self.dialog("W&eiter", "&OK", "A&bbrechen", *texts, seconds=seconds)
+    def status_dialog(self, *texts):
+        return self.dialog("W&eiter", "&OK", "A&bbrechen", *texts)
 
     def click_button(self, window, text):
         """Clicks a button with the mouse once it can be clicked."""
@@ -176,7 +180,7 @@ class EndToEndTest(unittest.TestCase):
             button = self.probe.control(window, text=text)
             return button if button.enabled else None
 
-        self.desktop.click(*wait_until(enabled, 10, f"the button {text!r}").middle)
+        self.desktop.click(*wait_until(enabled, f"the button {text!r}").middle)
 
     def icons(self):
         """The icons in the notification area."""
@@ -187,13 +191,13 @@ class EndToEndTest(unittest.TestCase):
 
     def open_menu(self):
         """Opens the icon's menu by a right click and yields its window."""
-        icon = wait_until(self.icons, 10, "the icon in the notification area")[0]
+        icon = wait_until(self.icons, "the icon in the notification area")[0]
         self.desktop.click(*icon.middle, button=3)
 
         def menus():
             return [window for window in self.probe.windows() if window.class_name == "#32768"]
 
-        return wait_until(menus, 10, "the icon's menu")[0]
+        return wait_until(menus, "the icon's menu")[0]
 
     def choose_from_menu(self, entry):
         """Clicks an entry of the icon's menu: three entries, and a separator of half their height above the last."""
@@ -225,16 +229,16 @@ class EndToEndTest(unittest.TestCase):
     def log(self):
         return self.log_bytes().decode(CODE_PAGE).replace("\r\n", "\n").split("\n")
 
-    def wait_log(self, line, seconds=20, times=1):
-        wait_until(lambda: self.log().count(line) >= times, seconds, f"the log line {line!r}")
+    def wait_log(self, line, times=1, seconds=PATIENCE):
+        wait_until(lambda: self.log().count(line) >= times, f"the log line {line!r}", seconds)
 
-    def wait_run_ended(self, runs=1, seconds=30):
+    def wait_run_ended(self, runs=1):
         """Each run is framed by two lines of stars."""
-        self.wait_log(STARS, seconds, 2 * runs)
+        self.wait_log(STARS, 2 * runs, RUN_PATIENCE)
 
     def teru_log(self):
         path = self.folder / "teru.log"
         return path.read_bytes().decode(CODE_PAGE).splitlines() if path.is_file() else []
 
-    def wait_teru_log(self, line, seconds=20):
-        wait_until(lambda: line in self.teru_log(), seconds, f"the stand-in's line {line!r}")
+    def wait_teru_log(self, line):
+        wait_until(lambda: line in self.teru_log(), f"the stand-in's line {line!r}")

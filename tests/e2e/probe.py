@@ -115,19 +115,17 @@ class Probe:
             found.append(window)
         return found
 
-    def window(self, title, seconds=10, where=lambda window: True):
+    def window(self, title, where=lambda window: True):
         """Waits for a visible window of this whole title for which the condition holds."""
 
         def look():
             return [window for window in self.windows(title) if where(window)]
 
-        return wait_until(look, seconds, f"the window {title!r}")[0]
+        return wait_until(look, f"the window {title!r}")[0]
 
-    def wait_gone(self, window, seconds=10):
+    def wait_gone(self, window):
         handle = window.handle
-        wait_until(
-            lambda: all(other.handle != handle for other in self.windows()), seconds, f"the end of {window.text!r}"
-        )
+        wait_until(lambda: all(other.handle != handle for other in self.windows()), f"the end of {window.text!r}")
 
     def controls(self, window):
         found = []

@@ -22,7 +22,7 @@ class AssetTest(EndToEndTest):
         self.wait_caption(main)
 
     def wait_caption(self, main):
-        wait_until(lambda: self.probe.windows(ASSET_CAPTION), 5, "the caption of the module")
+        wait_until(lambda: self.probe.windows(ASSET_CAPTION), "the caption of the module")
 
     def lay_template(self, **keys):
         template = self.desktop.host_path("C:\\TeRu\\Import\\anl")
@@ -75,7 +75,7 @@ class AssetMacroTest(AssetTest):
         self.start_program()
         self.open_dialog()
         self.press(ASSET_CAPTION)
-        self.wait_run_ended(seconds=60)
+        self.wait_run_ended()
         log = self.log()
         self.assertEqual(log[-3:], [COMPLETED, STARS, ""])
         return log[log.index("MakroFile: " + MACRO) + 1 : -3]

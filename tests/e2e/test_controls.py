@@ -389,7 +389,7 @@ SHOWDIALOG
 WAITFORDIALOG={RECORD},gespeichert
 """)
         self.wait_log(f"WaitForDialog: {RECORD} / gespeichert")
-        wait_until(lambda: not self.probe.windows(TITLE), 5, "the hidden status dialog")
+        wait_until(lambda: not self.probe.windows(TITLE), "the hidden status dialog")
         self.probe.post(self.record, WM_COMMAND, MENU_SAVE)
         self.wait_teru_log("Antwort: OK")
         self.status_dialog()

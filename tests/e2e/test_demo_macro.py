@@ -35,13 +35,13 @@ class DemoMacroTest(ClientRecordTest):
         self.probe.post(self.record, WM_COMMAND, COPY)
         box = self.probe.window(RECORD, where=lambda window: window.handle != self.record.handle)
         self.probe.post(box, WM_COMMAND, self.probe.control(box, text="Ja").id)
-        wait_until(lambda: self.teru_log()[-1].startswith("Zwischenablage"), 10, "the filled clipboard")
+        wait_until(lambda: self.teru_log()[-1].startswith("Zwischenablage"), "the filled clipboard")
         self.heard_before = len(self.teru_log())
 
     def test_macro_works_through_the_dialog(self):
         self.fill_clipboard()
         self.press(RECORD)
-        self.wait_run_ended(seconds=60)
+        self.wait_run_ended()
         log = self.log()
         log = log[log.index("MakroFile: QUMASTAMM.MAK") + 1 :]
         frame, year, currency, browse, copy, place = map(

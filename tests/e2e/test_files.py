@@ -238,7 +238,7 @@ class FilesTest(EndToEndTest):
         self.addCleanup(writer.join)
         self.addCleanup(stop.set)
         self.begin_macro(f"WAITFORFILE={DATA}\\*.csv", "MSG=nie")
-        wait_until(lambda: any("eingelesen" in line for line in self.log()), 10, "the first size")
+        wait_until(lambda: any("eingelesen" in line for line in self.log()), "the first size")
         self.click_button(self.status_dialog(), "A&bbrechen")
         self.wait_run_ended()
         log = self.lines_of_run()

@@ -53,7 +53,7 @@ BUTTONCLICK=7,Editor,1
         self.start_program()
         self.lay_macro(self.MACRO, fragment="Editor")
         self.start("notepad")
-        editor = self.probe.window(EDITOR, 20)
+        editor = self.probe.window(EDITOR)
         self.press("(unbenannt)")
         self.wait_run_ended()
         self.probe.wait_gone(editor)

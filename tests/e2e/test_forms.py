@@ -33,7 +33,7 @@ class FormsTest(EndToEndTest):
         return self._told.read_bytes().decode(CODE_PAGE).splitlines()
 
     def wait_event(self, event, times=1):
-        wait_until(lambda: self.events().count(event) >= times, 10, f"the event {event!r} in {self.events()}")
+        wait_until(lambda: self.events().count(event) >= times, f"the event {event!r} in {self.events()}")
 
     def wait_ended(self):
         self.wait_event("ended")
@@ -128,7 +128,7 @@ class LifeTest(FormsTest):
         self.wait_event("cmdSecond: back")
         self.assertTrue(self.probe.window(TITLE).enabled)
         self.assertEqual([event for event in self.events() if event.startswith("cmdOK")], [])
-        wait_until(lambda: self.probe.foreground() == window.handle, 5, "the form below to be active again")
+        wait_until(lambda: self.probe.foreground() == window.handle, "the form below to be active again")
 
     def test_a_modal_form_ends_when_another_program_closes_it(self):
         self.show("sample", TITLE)
@@ -143,7 +143,7 @@ class LifeTest(FormsTest):
         wm_user = 1024
         pbm_getpos = wm_user + 8
         before = self.probe.send(progress, pbm_getpos)
-        wait_until(lambda: self.probe.send(progress, pbm_getpos) > before, 5, "progress")
+        wait_until(lambda: self.probe.send(progress, pbm_getpos) > before, "progress")
 
     def test_showing_and_unloading_costs_no_objects(self):
         _, output = self.run_probe("cycles", "100")
@@ -156,9 +156,7 @@ class MenuTest(FormsTest):
     def open(self):
         window = self.show("sample", TITLE)
         self.desktop.click(*self.probe.control(window, MENU).middle)
-        return wait_until(
-            lambda: [menu for menu in self.probe.windows() if menu.class_name == "#32768"], 5, "the menu"
-        )[0]
+        return wait_until(lambda: [menu for menu in self.probe.windows() if menu.class_name == "#32768"], "the menu")[0]
 
     def test_choice_runs_the_entry(self):
         menu = self.open()
@@ -347,9 +345,7 @@ class LookTest(FormsTest):
         resized = self.events().count("frmSample: Resize")
         self.resize(900, 600)
         self.wait_event("frmSample: Resize", times=resized + 1)
-        wait_until(
-            lambda: size(self.probe.control(window, NOTES)) > size(notes), 5, "the text box to grow with the form"
-        )
+        wait_until(lambda: size(self.probe.control(window, NOTES)) > size(notes), "the text box to grow with the form")
         self.assertGreater(size(self.probe.control(window, NOTES))[1], size(notes)[1])
         self.assertEqual(size(self.probe.control(window, NAME)), size(name))
 
@@ -357,7 +353,7 @@ class LookTest(FormsTest):
         window = self.show("sample", TITLE)
         before = size(window)
         self.resize(50, 50)
-        wait_until(lambda: size(self.probe.window(TITLE)) < before, 5, "a smaller form")
+        wait_until(lambda: size(self.probe.window(TITLE)) < before, "a smaller form")
         smallest = self.probe.window(TITLE)
         for control in self.probe.controls(smallest):
             self.assertGreaterEqual(control.place[0], smallest.place[0], control)

@@ -60,7 +60,7 @@ class KeysTest(InputTest):
         self.start_program()
         self.press(CAPTION)
         self.status_dialog()
-        wait_until(lambda: any("Text abgewiesen" in line for line in self.journal()), 10, "the refusal")
+        wait_until(lambda: any("Text abgewiesen" in line for line in self.journal()), "the refusal")
         self.assertEqual(self.typed(), "")
 
     def test_modifiers_groups_names_and_counts(self):
@@ -96,7 +96,7 @@ class KeysTest(InputTest):
         dialog = self.status_dialog()
         self.assertEqual(self.typed(), "")
         self.desktop.activate("Zahlungsverkehr")
-        wait_until(lambda: self.probe.focus(self.window) == self.field.handle, 10, "the focus of the field")
+        wait_until(lambda: self.probe.focus(self.window) == self.field.handle, "the focus of the field")
         self.assertNotEqual(self.probe.focus(dialog), self.field.handle)
         self.assertEqual(self.probe.windows()[0].handle, dialog.handle)
 
@@ -112,7 +112,7 @@ class ClicksTest(InputTest):
         self.run_macro(
             f"MOUSECLICKBYWINDOWOFFSET={CAPTION},LEFT,10,{offset}\nMOUSECLICKBYWINDOWOFFSET={CAPTION},MIDDLE,11,{offset}\n"
         )
-        wait_until(lambda: len(self.clicks()) == 2, 10, "the clicks")
+        wait_until(lambda: len(self.clicks()) == 2, "the clicks")
         self.assertEqual(self.clicks(), [f"links: {left + 10}/{top + offset}", f"rechts: {left + 11}/{top + offset}"])
 
     def test_a_click_lands_where_the_pointer_was_moved(self):

@@ -80,7 +80,7 @@ class ClientYearsTest(InputDialogsTest):
             "MSG=bis $MERLAMAXYEAR",
             **sections,
         )
-        return self.dialog("Welche Mandanten?", "Auswahl", seconds=60)
+        return self.dialog("Welche Mandanten?", "Auswahl")
 
     def work_file(self):
         line = next(line for line in self.log() if line.startswith(VALUE_LOGGED))
@@ -160,7 +160,7 @@ class YearsTest(InputDialogsTest):
         return window
 
     def wait_ended(self):
-        wait_until(lambda: b"ended" in self._told.read_bytes(), 10, "the end of the forms probe")
+        wait_until(lambda: b"ended" in self._told.read_bytes(), "the end of the forms probe")
 
     def checked(self):
         lvm_getitemstate, state_image = 4140, 0xF000
@@ -172,7 +172,7 @@ class YearsTest(InputDialogsTest):
     def test_the_blank_moves_the_first_year_and_the_combo_box_takes_the_treatment(self):
         window = self.show("input-anl", "GWG in Auswertungen:")
         self.keys(window, "Up", "Down", "Down", "space")
-        wait_until(lambda: self.checked() == [False] * 2 + [True] * 6, 5, "the third year and those behind it")
+        wait_until(lambda: self.checked() == [False] * 2 + [True] * 6, "the third year and those behind it")
         self.keys(window, "Tab", "Down", "Return")
         self.wait_ended()
         self.assertEqual(
@@ -185,7 +185,7 @@ class YearsTest(InputDialogsTest):
         self.desktop.move((left + right) // 2, top + (bottom - top) // 3)
         before = self.checked()
         self.desktop.command(["xdotool", "click", "--repeat", "2", "--delay", "60", "1"])
-        wait_until(lambda: self.checked() != before, 5, "another mark")
+        wait_until(lambda: self.checked() != before, "another mark")
         checked = self.checked()
         first = checked.index(True)
         self.assertEqual(checked, [False] * first + [True] * (8 - first))
@@ -194,9 +194,9 @@ class YearsTest(InputDialogsTest):
     def test_without_a_year_a_message_keeps_the_dialog_open(self):
         window = self.show("input-mer-anl")
         self.keys(window, "Home", "space")
-        wait_until(lambda: all(self.checked()), 5, "all years")
+        wait_until(lambda: all(self.checked()), "all years")
         self.keys(window, "space")
-        wait_until(lambda: not any(self.checked()), 5, "no year")
+        wait_until(lambda: not any(self.checked()), "no year")
         self.keys(window, "Return")
         box = self.dialog("Bitte wählen Sie ein Wirtschaftsjahr aus!")
         self.keys(box, "Return")

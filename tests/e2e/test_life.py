@@ -46,7 +46,7 @@ class LogTest(EndToEndTest):
 class StartAndEndTest(LogTest):
     def test_start_leaves_one_icon_and_asks_nothing(self):
         process = self.start_program()
-        wait_until(lambda: len(self.icons()) == 1, 10, "the icon")
+        wait_until(lambda: len(self.icons()) == 1, "the icon")
         self.assertEqual(self.probe.windows(process=process), [])
         self.assert_log()
 
@@ -67,7 +67,7 @@ class StartAndEndTest(LogTest):
         self.desktop.key("Return")
         self.dialog("Das TeRu-Installationsverzeichnis wurde auf C:\\TeRu festgelegt.")
         self.answer(TITLE, "Return")
-        wait_until(self.icons, 10, "the icon")
+        wait_until(self.icons, "the icon")
         self.assertEqual(self.probe.registry(REGISTRY_KEY, "Teru"), "C:\\TeRu")
         self.assertEqual(
             self.log(),
@@ -80,8 +80,8 @@ class StartAndEndTest(LogTest):
         self.dialog(HOT_KEY_TAKEN, "OK")
         self.assertEqual(len(self.probe.processes(PROGRAM)), 2)
         self.answer(TITLE, "Return")
-        wait_until(lambda: self.probe.processes(PROGRAM) == [first], 10, "the end of the second instance")
-        wait_until(lambda: len(self.icons()) == 1, 10, "the end of the second icon")
+        wait_until(lambda: self.probe.processes(PROGRAM) == [first], "the end of the second instance")
+        wait_until(lambda: len(self.icons()) == 1, "the end of the second icon")
         self.lay_macro("MSG=noch da\n")
         self.start_teru()
         self.press()
@@ -95,8 +95,8 @@ class StartAndEndTest(LogTest):
         self.press()
         self.status_dialog()
         self.choose_from_menu("Beenden")
-        wait_until(lambda: process not in self.probe.processes(PROGRAM), 10, "the end of the program")
-        wait_until(lambda: not self.icons(), 10, "the end of the icon")
+        wait_until(lambda: process not in self.probe.processes(PROGRAM), "the end of the program")
+        wait_until(lambda: not self.icons(), "the end of the icon")
         self.assertEqual(self.probe.windows(TITLE), [])
         self.assert_log(*self.header())
 
@@ -109,7 +109,7 @@ class ChoiceTest(LogTest):
         self.press()
         self.dialog(MACRO_MISSING, "OK")
         self.answer(TITLE, "Return")
-        wait_until(lambda: not self.probe.windows(TITLE), 10, "the end of the message box")
+        wait_until(lambda: not self.probe.windows(TITLE), "the end of the message box")
         self.assertEqual(self.probe.processes(PROGRAM), [process])
         self.assert_log()
 

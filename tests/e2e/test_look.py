@@ -17,7 +17,7 @@ class Look:
 
     def shoot(self, name, window=None):
         """Takes a screenshot once the window is painted; of a form of our own, looks at the places of its controls."""
-        wait_until(lambda: self.desktop.x_windows("."), 5, "a window on the screen")
+        wait_until(lambda: self.desktop.x_windows("."), "a window on the screen")
         self.desktop.command(["sleep", "0.3"])
         self.desktop.screenshot(RESULTS / "look" / str(self.dpi) / f"{name}.png")
         if window is not None:
@@ -122,7 +122,7 @@ class Look:
         self.dialog("Das TeRu-Installationsverzeichnis wurde auf  festgelegt.")
         self.shoot("destination cancelled")
         self.answer(TITLE, "Return")
-        wait_until(self.icons, 10, "the icon")
+        wait_until(self.icons, "the icon")
         self.assertEqual(self.probe.registry(REGISTRY_KEY, "Teru"), "")
 
 

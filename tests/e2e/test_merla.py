@@ -80,7 +80,7 @@ class MerlaTest(EndToEndTest):
 
     def choose_years_from(self, row):
         """Clicks the check box of a row, which takes all later years with it, and confirms."""
-        dialog = self.dialog(ASK, seconds=40)
+        dialog = self.dialog(ASK)
         items = self.probe.control(dialog, class_name="SysListView32")
         left, top, _, _ = items.place
         self.desktop.click(left + 12, top + 26 + 14 * row)
@@ -141,7 +141,7 @@ class MerlaTest(EndToEndTest):
         self.start_program()
         self.press(MERLA.replace("2100", "280"))
         self.choose_years_from(2)
-        self.wait_run_ended(seconds=60)
+        self.wait_run_ended()
         self.assertEqual(self.chosen_years(), YEARS[2:])
         files = [f"{DESTINATION}\\Extern\\4711\\ANL\\{year[1].replace('.', '')}\\Anlagen.csv" for year in YEARS[2:]]
         protocol = self.lines(DESTINATION + "\\Extern\\Anlagen.txt")
@@ -155,7 +155,7 @@ class MerlaTest(EndToEndTest):
         self.start_program()
         self.press(MERLA)
         self.choose_years_from(0)
-        self.wait_run_ended(seconds=60)
+        self.wait_run_ended()
         folder = self.desktop.host_path(DESTINATION + "\\Extern\\4711\\ANL")
         written = sorted(path.parent.name for path in folder.rglob("Anlagen.csv"))
         self.assertIn("01072004", written)
@@ -174,7 +174,7 @@ class MerlaTest(EndToEndTest):
         self.press("Buchungsexport")
         dialog = self.dialog("Bitte wählen Sie die Mandanten und den Zeitraum.")
         self.click_button(dialog, "OK")
-        self.wait_run_ended(seconds=90)
+        self.wait_run_ended()
         written = sorted(path.relative_to(extern).as_posix() for path in extern.rglob("Buchungen.csv"))
         expected = [f"{client}/FIBU/{year}/Buchungen.csv" for client in (1001, 1002) for year in (2003, 2004, 2005)]
         self.assertEqual(written, expected)
@@ -189,7 +189,7 @@ class MerlaTest(EndToEndTest):
         dialog = self.dialog("alle Mandanten")
         self.click_button(dialog, "alle Mandanten")
         self.click_button(dialog, "OK")
-        self.wait_run_ended(seconds=180)
+        self.wait_run_ended()
         files = list(self.desktop.host_path(DESTINATION + "\\Extern").rglob("ESt-*.csv"))
         self.assertEqual(len(files), 8 * 3)
 

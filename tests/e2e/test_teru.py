@@ -38,7 +38,7 @@ class TeruTest(EndToEndTest):
         self.start_export(dialog, FOLDER + "\\Ausgabe für Prüfer")
 
         postings = folder / "Buchungen.csv"
-        wait_until(postings.is_file, 5, "the first rows of Buchungen.csv")
+        wait_until(postings.is_file, "the first rows of Buchungen.csv")
         early = postings.stat().st_size
         self.assertFalse(self.probe.control(dialog, START).enabled)
 
@@ -92,7 +92,7 @@ class TeruTest(EndToEndTest):
     def test_ends_on_request_without_a_trace(self):
         main, _ = self.start_teru()
         self.probe.post(main, WM_CLOSE)
-        wait_until(lambda: not self.probe.processes("TERU.EXE"), 10, "the end of the stand-in")
+        wait_until(lambda: not self.probe.processes("TERU.EXE"), "the end of the stand-in")
         self.assertEqual(self.teru_log()[-1], "Ende")
 
 
@@ -120,14 +120,14 @@ class ClientRecordDialogTest(EndToEndTest):
     def test_dialog_can_be_worked_by_keys(self):
         self.bring_to_front("Stammdaten")
         name = self.probe.control(self.record, NAME).handle
-        wait_until(lambda: self.probe.focus(self.record) == name, 10, "the focus of the first text box")
+        wait_until(lambda: self.probe.focus(self.record) == name, "the focus of the first text box")
         self.desktop.key(*["Tab"] * 27)
         order = ["2211", "2212", "2213", "2214", "2215", "2216", "2261", "2271", "2281"]
 
         def focus():
             return [line.split()[1] for line in self.teru_log() if line.startswith("Fokus")]
 
-        wait_until(lambda: focus()[-len(order) :] == [*order[1:], order[0]], 10, "the way round by the tab key")
+        wait_until(lambda: focus()[-len(order) :] == [*order[1:], order[0]], "the way round by the tab key")
         self.desktop.key(*["Tab"] * 20, "ctrl+a")
         self.wait_teru_log(f"Liste {PARTNERS}: Strg+A")
         self.assertEqual(self.probe.send(self.probe.control(self.record, PARTNERS), LVM_GETSELECTEDCOUNT), 5)

@@ -92,7 +92,7 @@ class RehearsalTest(EndToEndTest):
         self.press(caption)
         if confirm:
             confirm()
-        self.wait_run_ended(seconds=60)
+        self.wait_run_ended()
         return self.log()[self.lines_before : -1]
 
     def rehearsed(self, macro, *answers):
@@ -121,7 +121,7 @@ class RehearsalTest(EndToEndTest):
         shutil.copy(DEMO / "kanzrewe.cfg", template)
         self.open_in_teru(MENU_ASSETS, ASSETS)
         caption = CAPTION.replace("Finanzbuchhaltung", ASSETS)
-        wait_until(lambda: self.probe.windows(caption), 5, "the caption of the module")
+        wait_until(lambda: self.probe.windows(caption), "the caption of the module")
         self.assert_same(self.pressed("QUMAANL.MAK", caption), self.rehearsed("QUMAANL.MAK"))
 
     def test_the_clients_record(self):
