@@ -11,7 +11,7 @@ import sys
 import time
 import unittest
 
-from processes import Command, run, stop_on_signals
+from processes import Command, run, step_back, stop_on_signals
 from wine_desktop import BUILD, ROOT, WINDOWS_BUILD, Desktop, DesktopError
 
 RESULTS = BUILD / "test"
@@ -33,8 +33,8 @@ def build(preset, totals):
     print(f"== building preset {preset}", flush=True)
     configured = run(["cmake", "--preset", preset], 300, stdout=subprocess.DEVNULL, cwd=ROOT) == 0
     # What can be built is built, so that one broken program does not hide the tests of the others.
-    command = ["nice", "cmake", "--build", "--preset", preset, "--parallel", JOBS, "--", "-k", "0"]
-    if not configured or run(command, 3000, cwd=ROOT) != 0:
+    command = ["cmake", "--build", "--preset", preset, "--parallel", JOBS, "--", "-k", "0"]
+    if not configured or run(command, 3000, cwd=ROOT, preexec_fn=step_back) != 0:
         totals.add(f"building preset {preset}", 0, 1, time.monotonic() - start)
 
 
@@ -98,7 +98,7 @@ def google_counts(result):
 def google_suite(program, totals):
     result = RESULTS / f"{program.name}.json"
     command = [str(program), "--gtest_brief=1", f"--gtest_output=json:{result}"]
-    run_suite(totals, f"{program.name} (native)", 600, result, google_counts, command)
+    run_suite(totals, f"{program.name} (native)", 600, result, google_counts, command, preexec_fn=step_back)
 
 
 def google_suite_under_wine(program, totals):

@@ -211,6 +211,13 @@ class Desktop:
     def activate(self, title):
         self.command(["xdotool", "windowactivate", "--sync", self.x_window(title)])
 
+    def focus(self):
+        """The X window that gets the keys, or 0."""
+        result = subprocess.run(
+            ["xdotool", "getwindowfocus", "-f"], env=self.environment, capture_output=True, text=True, check=False
+        )
+        return int(result.stdout or 0)
+
     def key(self, *keys):
         self.command(["xdotool", "key", "--clearmodifiers", "--delay", "40", *keys])
 

@@ -146,10 +146,13 @@ class EndToEndTest(unittest.TestCase):
         self._wait_for_foreground(lambda: [window], window.text)
 
     def _wait_for_foreground(self, windows, caption, seconds=PATIENCE):
-        """Windows hears of it later than the window manager."""
+        """Both the focus of the display, which keys follow, and Windows lag behind the window manager."""
 
         def in_front():
-            return self.probe.foreground() in [window.handle for window in windows()]
+            front = self.probe.foreground()
+            if front not in [window.handle for window in windows()]:
+                return False
+            return self.desktop.focus() == self.probe.x_window(front) != 0
 
         wait_until(in_front, f"{caption!r} in front", seconds)
 

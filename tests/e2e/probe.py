@@ -165,6 +165,10 @@ class Probe:
         """Handle of the window that has the focus in the window's queue, or 0."""
         return int(self.ask("focus", window.handle)[0][0])
 
+    def x_window(self, handle):
+        """The window of the display that shows this top-level window, or 0."""
+        return int(self.ask("xwindow", handle)[0][0])
+
     # Messages
 
     def set_text(self, control, text):

@@ -119,8 +119,9 @@ class ClientRecordDialogTest(EndToEndTest):
 
     def test_dialog_can_be_worked_by_keys(self):
         self.bring_to_front("Stammdaten")
-        name = self.probe.control(self.record, NAME).handle
-        wait_until(lambda: self.probe.focus(self.record) == name, "the focus of the first text box")
+        name = self.probe.control(self.record, NAME)
+        self.desktop.click(*name.middle)
+        wait_until(lambda: self.probe.focus(self.record) == name.handle, "the focus of the first text box")
         self.desktop.key(*["Tab"] * 27)
         order = ["2211", "2212", "2213", "2214", "2215", "2216", "2261", "2271", "2281"]
 

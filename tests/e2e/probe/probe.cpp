@@ -7,6 +7,7 @@
 //   children WINDOW                handle, parent, id, visible, enabled, class, text, left, top, right, bottom
 //   foreground                     handle
 //   focus WINDOW                   handle of the window with the focus, of those that share the queue of this one
+//   xwindow WINDOW                 the window of the display that shows this top-level window, or 0
 //   text WINDOW                    text, asked by message
 //   settext WINDOW TEXT            answer to WM_SETTEXT
 //   post WINDOW MESSAGE W L        1 when posted
@@ -332,6 +333,11 @@ const std::map<std::string, Command>& Commands() {
       {"windows", {0, [](const Fields&) { EnumWindows(AnswerWindow, 0); }}},
       {"children", {1, [](const Fields& f) { AnswerChildren(Window(f[1])); }}},
       {"foreground", {0, [](const Fields&) { Answer({Number(GetForegroundWindow())}); }}},
+      {"xwindow",
+       {1,
+        [](const Fields& f) {
+          Answer({Number(static_cast<HWND>(GetPropA(Window(f[1]), "__wine_x11_whole_window")))});
+        }}},
       {"text", {1, [](const Fields& f) { Answer({TextOf(Window(f[1]))}); }}},
       {"settext",
        {2,
