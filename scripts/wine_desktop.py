@@ -203,13 +203,13 @@ class Desktop:
             text=True,
             check=False,
         )
-        return result.stdout.split()
+        return [int(window) for window in result.stdout.split()]
 
     def x_window(self, title):
         return wait_until(lambda: self.x_windows(title), f"a window titled {title!r}")[0]
 
     def activate(self, title):
-        self.command(["xdotool", "windowactivate", "--sync", self.x_window(title)])
+        self.command(["xdotool", "windowactivate", "--sync", str(self.x_window(title))])
 
     def focus(self):
         """The X window that gets the keys, or 0."""

@@ -183,7 +183,9 @@ class EndToEndTest(unittest.TestCase):
             button = self.probe.control(window, text=text)
             return button if button.enabled else None
 
-        self.desktop.click(*wait_until(enabled, f"the button {text!r}").middle)
+        button = wait_until(enabled, f"the button {text!r}")
+        wait_until(lambda: self.probe.x_window(window.handle) in self.desktop.x_windows("."), f"{window.text!r} to be seen")
+        self.desktop.click(*button.middle)
 
     def icons(self):
         """The icons in the notification area."""

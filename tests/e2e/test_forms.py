@@ -362,7 +362,7 @@ class LookTest(FormsTest):
 
     def resize(self, width, height):
         x_window = self.desktop.x_window(f"^{TITLE}$")
-        self.desktop.command(["xdotool", "windowsize", x_window, str(width), str(height)])
+        self.desktop.command(["xdotool", "windowsize", str(x_window), str(width), str(height)])
 
     def test_the_log_fills_its_form_and_holds_megabytes(self):
         window = self.show("log-large", "TARVEN Datenexport - Protokoll")
