@@ -8,6 +8,13 @@
 
 namespace platform {
 
+namespace {
+
+// The highest bit tells.
+bool IsFamily9x() { return (::GetVersion() & 0x80000000) != 0; }
+
+}  // namespace
+
 bool FileExists(const std::string& path) {
   const DWORD attributes = ::GetFileAttributesA(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
@@ -22,8 +29,9 @@ std::int32_t OpenFile(const std::string& path, FileMode mode) {
   DWORD access = GENERIC_READ;
   DWORD disposition = OPEN_EXISTING;
   if (mode == FileMode::Append) {
-    // This right alone lets the system put each write behind what others have written meanwhile.
-    access = FILE_APPEND_DATA;
+    // This right alone lets the system put each write behind what others have written meanwhile. The 9x family knows
+    // the generic rights only.
+    access = IsFamily9x() ? GENERIC_WRITE : FILE_APPEND_DATA;
     disposition = OPEN_ALWAYS;
   } else if (mode == FileMode::CreateNew) {
     access = GENERIC_WRITE;
@@ -35,6 +43,7 @@ std::int32_t OpenFile(const std::string& path, FileMode mode) {
   const HANDLE file = ::CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, disposition,
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) RaiseLastError();
+  if (mode == FileMode::Append && IsFamily9x()) ::SetFilePointer(file, 0, nullptr, FILE_END);
   return NumberOf(file);
 }
 
