@@ -140,7 +140,12 @@ void AnswerChildren(HWND parent) {
   EnumChildWindows(parent, Collect, reinterpret_cast<LPARAM>(&children));
   for (HWND child : children) {
     Fields fields{Number(child), Number(GetParent(child)), Number(GetDlgCtrlID(child))};
-    AddState(fields, child, TextOf(child));
+    try {
+      AddState(fields, child, TextOf(child));
+    } catch (const Failure&) {
+      if (IsWindow(child)) throw;
+      continue;  // it has gone meanwhile
+    }
     Answer(fields);
   }
 }
