@@ -98,7 +98,7 @@ def google_counts(result):
 def google_suite(program, totals):
     result = RESULTS / f"{program.name}.json"
     command = [str(program), "--gtest_brief=1", f"--gtest_output=json:{result}"]
-    run_suite(totals, f"{program.name} (native)", 600, result, google_counts, command, preexec_fn=step_back)
+    run_suite(totals, f"{program.name} (native)", 1500, result, google_counts, command, preexec_fn=step_back)
 
 
 def google_suite_under_wine(program, totals):

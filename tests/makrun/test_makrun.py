@@ -28,7 +28,7 @@ class MakrunTest(unittest.TestCase):
         return self.file(name, "".join(line + "\r\n" for line in lines))
 
     def makrun(self, *arguments, status=0):
-        done = subprocess.run([str(MAKRUN), *map(str, arguments)], capture_output=True, timeout=60, cwd=self.folder)
+        done = subprocess.run([str(MAKRUN), *map(str, arguments)], capture_output=True, timeout=300, cwd=self.folder)
         errors = done.stderr.decode()
         self.assertEqual(done.returncode, status, errors)
         self.errors = errors

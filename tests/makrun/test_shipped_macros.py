@@ -53,7 +53,7 @@ class ShippedMacrosTest(unittest.TestCase):
             options += ["--ini", str(settings)]
         desktop = DESKTOPS / (name + ".desktop")
         command = [str(MAKRUN), "--press", *options, "--desktop", str(desktop), str(DEMO / (name + ".MAK"))]
-        return subprocess.run(command, capture_output=True, timeout=60)
+        return subprocess.run(command, capture_output=True, timeout=300)
 
     def test_each_completes_in_under_a_second(self):
         for name in MACROS:

@@ -101,7 +101,7 @@ class RehearsalTest(EndToEndTest):
         command = [str(MAKRUN), "--press", "--desktop", str(desktop), "--ini", str(self.folder / "QUMAEXP.INI")]
         for answer in answers:
             command += ["--answer", answer]
-        done = subprocess.run([*command, str(DEMO / macro)], capture_output=True, timeout=60, check=False)
+        done = subprocess.run([*command, str(DEMO / macro)], capture_output=True, timeout=300, check=False)
         self.assertEqual((done.returncode, done.stderr.decode()), (0, ""))
         return done.stdout.decode().split("\n")[:-1]
 

@@ -1,7 +1,7 @@
 // Drive letters over host folders.
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 
@@ -141,12 +141,12 @@ TEST_F(SimulatedDrives, WritingASectionFileLeavesAllElseAsItWas) {
 
 TEST_F(SimulatedDrives, HundredThousandLinesCostNoTime) {
   const auto file = platform::OpenFile("QUMAEXP.LOG", FileMode::Append);
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   for (int i = 0; i < 100'000; ++i) platform::WriteFile(file, "eine Zeile des Protokolls\r\n");
-  const auto passed = std::chrono::steady_clock::now() - start;
+  const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
   platform::CloseFile(file);
   EXPECT_EQ(platform::FileSize("QUMAEXP.LOG"), 27 * 100'000);
-  EXPECT_LT(passed, std::chrono::seconds(5)) << "far beyond what even a build with sanitizers needs";
+  EXPECT_LT(seconds, 5) << "of processor time, far beyond what even a build with sanitizers needs";
 }
 
 }  // namespace
