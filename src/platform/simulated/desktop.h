@@ -132,8 +132,8 @@ void Fail(const std::string& operation, int times = -1, int after = 0,
 bool Fails(const std::string& operation);           // for the implementation: counts down
 void RaiseIfFailing(const std::string& operation);  // the same with the fault
 
-// Every mouse_event, SetCursorPos, BlockInput, SetForegroundWindow, keybd_event, TypeCharacter, AttachThreadInput and
-// SetFocus, in order, as "SetCursorPos 10 20".
+// Every mouse_event, SetCursorPos, BlockInput, SetForegroundWindow, keybd_event, TypeCharacter, AttachThreadInput,
+// SetFocus and SetWindowPos (window and place in the Z-order), in order, as "SetCursorPos 10 20".
 std::vector<std::string>& InputLog();
 
 // The keyboard has the German layout. A key is handled when its process runs, by the window that has the focus then: it

@@ -10,6 +10,7 @@ using namespace simulated;
 
 bool SetWindowPos(std::int32_t hWnd, std::int32_t hWndInsertAfter, std::int32_t X, std::int32_t Y, std::int32_t cx,
                   std::int32_t cy, std::uint32_t uFlags) {
+  TheDesktop().inputLog.push_back("SetWindowPos " + std::to_string(hWnd) + " " + std::to_string(hWndInsertAfter));
   Window* window = Find(hWnd);
   if (window == nullptr || Fails("SetWindowPos")) return false;
   if (hWndInsertAfter != HWND_TOPMOST && hWndInsertAfter != HWND_NOTOPMOST)

@@ -125,8 +125,8 @@ TEST_F(KeyVerbs, SendKeyToControlJoinsTheThreadOfTheMainWindow) {
   RunLines({"SENDKEY2=a,7,Fremdes,Edit"});
   const std::string threads = std::to_string(ThreadOf(main_)) + " " + std::to_string(ThreadOf(frmStatus.hWnd()));
   ASSERT_FALSE(InputLog().empty());
-  EXPECT_EQ(InputLog().front(), "AttachThreadInput " + threads + " 1");
-  EXPECT_EQ(InputLog().back(), "AttachThreadInput " + threads + " 0");
+  EXPECT_EQ(*std::next(InputLog().begin()), "AttachThreadInput " + threads + " 1");
+  EXPECT_EQ(*std::prev(InputLog().end(), 2), "AttachThreadInput " + threads + " 0");
 }
 
 TEST_F(KeyVerbs, SendKeyToControlWithoutTheControlFailsAndSendsNothing) {
@@ -180,8 +180,8 @@ TEST_F(KeyVerbs, SendKeyToWindowJoinsTheThreadOfTheMainWindow) {
   AddWindow({.className = "X", .text = "Fremdes"});
   RunLines({"SENDKEY2WINDOW=a,Fremdes"});
   const std::string threads = std::to_string(ThreadOf(main_)) + " " + std::to_string(ThreadOf(frmStatus.hWnd()));
-  EXPECT_EQ(InputLog().front(), "AttachThreadInput " + threads + " 1");
-  EXPECT_EQ(InputLog().back(), "AttachThreadInput " + threads + " 0");
+  EXPECT_EQ(*std::next(InputLog().begin()), "AttachThreadInput " + threads + " 1");
+  EXPECT_EQ(*std::prev(InputLog().end(), 2), "AttachThreadInput " + threads + " 0");
 }
 
 TEST_F(KeyVerbs, SendKeyToWindowWithoutTheWindowSendsTheKeysAllTheSame) {
@@ -192,7 +192,7 @@ TEST_F(KeyVerbs, SendKeyToWindowWithoutTheWindowSendsTheKeysAllTheSame) {
 
 TEST_F(KeyVerbs, SendKeyToWindowPartsTheQueuesAlsoBehindABadString) {
   EXPECT_TRUE(RunLines({"SENDKEY2WINDOW={TAB,Zahlungen"}));
-  EXPECT_EQ(InputLog().back().back(), '0');
+  EXPECT_EQ(std::prev(InputLog().end(), 2)->back(), '0');
   EXPECT_TRUE(At(frmStatus.hWnd()).topMost);
 }
 
