@@ -1,5 +1,8 @@
 #include "support/press.h"
 
+#include <utility>
+
+#include "forms/simulated/user.h"
 #include "platform/messages.h"
 #include "platform/shell.h"
 #include "platform/simulated/desktop.h"
@@ -23,6 +26,10 @@ void PressHotKey() {
 
 void PressHotKeyAfter(std::int32_t milliseconds) {
   simulated::Schedule(milliseconds, [] { simulated::PressHotKey(platform::MOD_ALT, platform::VK_F12); });
+}
+
+void User(std::function<void()> acts) {
+  forms::simulated::WhenModal([acts = std::move(acts)](forms::Form&) { acts(); });
 }
 
 void Click(const forms::Button& button) { platform::PostMessageA(button.now.handle, platform::BM_CLICK, 0, 0); }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <source_location>
 #include <string>
 #include <vector>
@@ -28,6 +29,9 @@ void PressHotKey();
 
 // The press is carried out at the next pump after so many simulated milliseconds.
 void PressHotKeyAfter(std::int32_t milliseconds);
+
+// What the user does in the next dialog that waits for an answer.
+void User(std::function<void()> acts);
 
 // A click on a button, or on the system menu's "close": carried out when the program pumps next.
 void Click(const forms::Button& button);

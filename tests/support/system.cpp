@@ -5,6 +5,7 @@
 #include "environment/file_system.h"
 #include "frame/log.h"
 #include "frame/state.h"
+#include "platform/registry.h"
 #include "platform/settings.h"
 #include "platform/simulated/desktop.h"
 #include "platform/simulated/host_paths.h"
@@ -17,6 +18,11 @@ namespace simulated = platform::simulated;
 SystemTest::SystemTest() {
   basMain::FileSystemState.emplace();
   basMain::OpenLog();
+}
+
+void InstallSuite(const std::string& directory) {
+  simulated::Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {platform::REG_SZ,
+                                                                            directory + std::string(1, '\0')};
 }
 
 void StartProgram() {

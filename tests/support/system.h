@@ -29,6 +29,13 @@ class SystemTest : public testing::Test {
   rehearsal::FreshSystem system_;
 };
 
+// The suite's data directory, as its installation leaves it in the registry.
+void InstallSuite(const std::string& directory = "C:\\TeRu");
+
+// What the log tells when C:\TeRu is looked for and is not there yet.
+inline const std::vector<std::string> kDiscovery = {"GetTeRuDestination (2. RegValue): C:\\TeRu",
+                                                    "Ausgabeverzeichnis erstellt: C:\\TeRu\\"};
+
 // Loads the main form, with the suite's data directory C:\TeRu in the registry so that no question comes up, and
 // empties the log, so that it begins with what the test does.
 void StartProgram();

@@ -38,7 +38,7 @@ constexpr std::int32_t kAreas = 11;
 class AssetMatrixTest : public SystemTest {
  protected:
   AssetMatrixTest() {
-    Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {platform::REG_SZ, std::string("C:\\TeRu\0", 9)};
+    InstallSuite();
     dialog_ = AddWindow({.className = "ThunderRT6FormDC",
                          .text = "Anlagen exportieren",
                          .procedure = [this](const Message& message) -> std::optional<std::int32_t> {

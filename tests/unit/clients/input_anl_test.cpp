@@ -21,19 +21,17 @@ using forms::simulated::ClickItem;
 using forms::simulated::Close;
 using forms::simulated::DoubleClick;
 using forms::simulated::Press;
-using forms::simulated::WhenModal;
 
 using Lines = std::vector<std::string>;
 using Marks = std::vector<bool>;
 
 constexpr char kCaption[] = "Program - 0012 / 4711 / 2005 / Asset register";
 constexpr char kOptions[] = "C:\\TeRu\\Extern\\Berater-12\\4711\\TDConv.cfg";
-const Lines kDestination = {"GetTeRuDestination (2. RegValue): C:\\TeRu", "Ausgabeverzeichnis erstellt: C:\\TeRu\\"};
 
 class InputAnlTest : public SystemTest {
  protected:
   InputAnlTest() {
-    Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {platform::REG_SZ, std::string("C:\\TeRu\0", 9)};
+    InstallSuite();
     TargetWindow(kCaption);
     Years({"01.01.2001", "01.01.2002", "01.01.2003", "01.01.2004"});
   }
@@ -41,12 +39,6 @@ class InputAnlTest : public SystemTest {
   static void Years(const Lines& begins) {
     clients.Matrix.clear();
     for (const std::string& begin : begins) clients.Matrix.push_back({"Inventar", begin, "31.12." + begin.substr(6)});
-  }
-
-  // The user of the next dialog.
-  template <class Acts>
-  void User(Acts acts) {
-    WhenModal([acts](forms::Form&) { acts(); });
   }
 
   static Marks Shown() {
@@ -170,13 +162,13 @@ TEST_F(InputAnlTest, WithoutAClientTheTextStaysAndTheOptionsGoToAFolderWithoutNu
   });
   EXPECT_TRUE(ShowInputANL("Mandant %1, Jahr %2?"));
   EXPECT_EQ(SavedOption("C:\\TeRu\\Extern\\Berater-\\TDConv.cfg"), "[ANL]\r\nOptionen GWGinAuswertungen=0\r\n");
-  ExpectLog(kDestination + kDestination +
+  ExpectLog(kDiscovery + kDiscovery +
             Lines{"Ausgabeverzeichnis erstellt: C:\\TeRu\\Extern\\Berater-\\", "ShowInputANL"});
 }
 
 TEST_F(InputAnlTest, ACaptionWithoutAYearNamesNoClientEither) {
   EXPECT_EQ(Question("TeRu - 12/4711/Anlagen", "Mandant %1, Jahr %2?"), "Mandant %1, Jahr %2?");
-  ExpectLog(kDestination + Lines{"ShowInputANL"});
+  ExpectLog(kDiscovery + Lines{"ShowInputANL"});
 }
 
 TEST_F(InputAnlTest, NumbersOfAnEarlierDialogAreForgotten) {
@@ -299,7 +291,7 @@ TEST_F(InputAnlTest, ConfirmationGoesIntoTheMatrixAndTheOptionsFile) {
   EXPECT_FALSE(frmInputANL.Loaded());
   EXPECT_EQ(Taken(), (Marks{false, false, true, true}));
   EXPECT_EQ(SavedOption(), "[ANL]\r\nOptionen GWGinAuswertungen=1\r\n");
-  ExpectLog(Lines{std::string("WindowCaption: ") + kCaption, "Berater: 12"} + kDestination + kDestination +
+  ExpectLog(Lines{std::string("WindowCaption: ") + kCaption, "Berater: 12"} + kDiscovery + kDiscovery +
             Lines{"Ausgabeverzeichnis erstellt: C:\\TeRu\\Extern\\Berater-12\\4711\\", "ShowInputANL"});
 }
 

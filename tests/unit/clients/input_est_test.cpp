@@ -19,7 +19,6 @@ using namespace support;
 using forms::simulated::Close;
 using forms::simulated::Press;
 using forms::simulated::Type;
-using forms::simulated::WhenModal;
 
 using Lines = std::vector<std::string>;
 
@@ -27,12 +26,6 @@ constexpr char kNotNumeric[] = "Bitte geben Sie eine numerische Mandantennummer 
 
 class InputEstTest : public SystemTest {
  protected:
-  // The user of the next dialog.
-  template <class Acts>
-  void User(Acts acts) {
-    WhenModal([acts](forms::Form&) { acts(); });
-  }
-
   void ExpectState(std::int32_t state) {
     EXPECT_EQ(clients.InputState, state);
     ExpectLog({"ShowInputDlg (" + std::to_string(state) + ")"});

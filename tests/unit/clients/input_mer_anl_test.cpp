@@ -7,7 +7,6 @@
 #include "engine/state.h"
 #include "forms/simulated/user.h"
 #include "platform/files.h"
-#include "platform/registry.h"
 #include "platform/simulated/desktop.h"
 #include "support/press.h"
 
@@ -20,18 +19,16 @@ using forms::simulated::ClickBox;
 using forms::simulated::Close;
 using forms::simulated::DoubleClick;
 using forms::simulated::Press;
-using forms::simulated::WhenModal;
 
 using Lines = std::vector<std::string>;
 using Marks = std::vector<bool>;
 
 constexpr char kExport[] = "C:\\TeRu\\Extern\\4711\\ANL\\export.cfg";
-const Lines kDestination = {"GetTeRuDestination (2. RegValue): C:\\TeRu", "Ausgabeverzeichnis erstellt: C:\\TeRu\\"};
 
 class InputMerAnlTest : public SystemTest {
  protected:
   InputMerAnlTest() {
-    Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {platform::REG_SZ, std::string("C:\\TeRu\0", 9)};
+    InstallSuite();
     Years({"01.01.2003", "01.01.2004", "01.01.2005"});
   }
 
@@ -48,12 +45,6 @@ class InputMerAnlTest : public SystemTest {
 
   static void FirstYear(const std::string& value) {
     PutFile("C:\\TeRu\\Import\\Anl\\merla.cfg", "[Vorlage]\r\nWirtschaftsjahrAb=" + value + "\r\n");
-  }
-
-  // The user of the next dialog.
-  template <class Acts>
-  void User(Acts acts) {
-    WhenModal([acts](forms::Form&) { acts(); });
   }
 
   static Marks Shown() {
@@ -103,7 +94,7 @@ TEST_F(InputMerAnlTest, WordsPictureAndColumns) {
     Press(frmInputMerANL.cmdCancel);
   });
   EXPECT_TRUE(ShowInputMerANL("Jahre von %1, %2, %1?", "4711"));
-  ExpectLog(kDestination + Lines{"ShowInputMerANL"});
+  ExpectLog(kDiscovery + Lines{"ShowInputMerANL"});
 }
 
 TEST_F(InputMerAnlTest, TheListFollowsTheUserAsOneRange) {
@@ -178,7 +169,7 @@ TEST_F(InputMerAnlTest, ConfirmationWritesTheConfigurationAndMakesTheFolders) {
   EXPECT_TRUE(platform::FolderExists("C:\\TeRu\\Extern\\4711\\ANL\\31122001"));
   EXPECT_FALSE(platform::FolderExists("C:\\TeRu\\Extern\\4711\\ANL\\01012003"));
   EXPECT_TRUE(platform::FolderExists("C:\\TeRu\\Extern\\4711\\ANL\\01012000"));
-  ExpectLog(kDestination + kDestination +
+  ExpectLog(kDiscovery + kDiscovery +
             Lines{"Ausgabeverzeichnis erstellt: C:\\TeRu\\Extern\\4711\\ANL\\",
                   "Ausgabeverzeichnis erstellt: C:\\TeRu\\Extern\\4711\\ANL\\31122001\\",
                   "Pfad: C:\\TeRu\\Extern\\4711\\ANL\\31122001",

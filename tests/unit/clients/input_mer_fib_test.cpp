@@ -19,7 +19,6 @@ using forms::simulated::ClickBox;
 using forms::simulated::Close;
 using forms::simulated::Press;
 using forms::simulated::Type;
-using forms::simulated::WhenModal;
 
 using Lines = std::vector<std::string>;
 using Marks = std::vector<bool>;
@@ -39,12 +38,6 @@ class InputMerFibTest : public SystemTest {
     std::string text = "Kopf\r\nzweite;Zeile\r\n";
     for (const std::string& line : clientLines) text += line + "\r\n";
     PutFile(kClients, text);
-  }
-
-  // The user of the next dialog.
-  template <class Acts>
-  void User(Acts acts) {
-    WhenModal([acts](forms::Form&) { acts(); });
   }
 
   // Shows the dialog to such a user, who cancels it where he has not answered.

@@ -116,8 +116,7 @@ TEST_F(BuiltInVariableRunTest, NowAtMidnightHasNoTime) {
 }
 
 TEST_F(BuiltInVariableRunTest, SkippedLinesComputeTheirPathsAndLogIt) {
-  platform::simulated::Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {platform::REG_SZ,
-                                                                                      std::string("C:\\TeRu\0", 9)};
+  support::InstallSuite();
   EXPECT_TRUE(RunLines({"IF STRCOMP=a,b", "MSG=$TERUPATH", "ENDIF"}));
   const auto log = Log();
   EXPECT_EQ(log[0], "STRCOMP: a, b = False");

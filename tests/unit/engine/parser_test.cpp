@@ -74,12 +74,6 @@ class ParserTest : public support::SystemTest {
     run.UserVariables.Declare(name);
     run.UserVariables.SetValue(run.UserVariables.Find(name).value(), value);
   }
-
-  // The suite's data directory, from which $TERUPATH is made.
-  static void SetDestination(const std::string& directory) {
-    platform::simulated::Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {
-        platform::REG_SZ, directory + std::string(1, '\0')};
-  }
 };
 
 TEST_F(ParserTest, AVerbAloneHasEmptyArguments) { EXPECT_EQ(Parse("msg"), (Texts{"MSG", "", "", "", "", "", "", ""})); }
@@ -136,51 +130,51 @@ TEST_F(ParserTest, AValueIsNeitherLookedUpAgainNorExpandedNorSplit) {
 }
 
 TEST_F(ParserTest, AValueWithACommaSpreadsOverTwoArguments) {
-  SetDestination("C:\\Meier, Otto");
+  support::InstallSuite("C:\\Meier, Otto");
   EXPECT_EQ(Parse("V=$TERUPATH,b"), (Texts{"V", "C:\\Meier", " Otto\\Extern", "b", "", "", "", ""}));
 }
 
 TEST_F(ParserTest, AValueWithACommaInSingleQuotesIsOneArgument) {
-  SetDestination("C:\\Meier, Otto");
+  support::InstallSuite("C:\\Meier, Otto");
   EXPECT_EQ(Parse("V='$TERUPATH',b"), (Texts{"V", "C:\\Meier, Otto\\Extern", "b", "", "", "", "", ""}));
 }
 
 TEST_F(ParserTest, AValueWithAnEqualsCutsTheLine) {
-  SetDestination("C:\\A=B");
+  support::InstallSuite("C:\\A=B");
   EXPECT_EQ(Parse("V=$TERUPATH,b"), (Texts{"V", "C:\\A", "", "", "", "", "", ""}));
 }
 
 TEST_F(ParserTest, AValueThatHoldsALaterNameIsScannedForIt) {
-  SetDestination("C:\\$DATE");  // $TERUPATH is substituted before $DATE
+  support::InstallSuite("C:\\$DATE");  // $TERUPATH is substituted before $DATE
   EXPECT_EQ(Parse("V=$TERUPATH")[1], "C:\\14.03.2006\\Extern");
 }
 
 TEST_F(ParserTest, AValueThatHoldsAnEarlierNameKeepsIt) {
-  SetDestination("C:\\$WJ");  // $WJ is substituted before $TERUPATH
+  support::InstallSuite("C:\\$WJ");  // $WJ is substituted before $TERUPATH
   EXPECT_EQ(Parse("V=$TERUPATH")[1], "C:\\$WJ\\Extern");
 }
 
 TEST_F(ParserTest, AValueIsComputedOnceForAllItsPlaces) {
-  SetDestination("C:\\TeRu");
+  support::InstallSuite("C:\\TeRu");
   EXPECT_EQ(Parse("V=$TERUPATH,$TERUPATH")[2], "C:\\TeRu\\Extern");
   const auto log = Log();
   EXPECT_EQ(std::count(log.begin(), log.end(), "GetTeRuDestination (2. RegValue): C:\\TeRu"), 1);
 }
 
 TEST_F(ParserTest, AComputationIsNotStartedByALineWithoutTheName) {
-  SetDestination("C:\\TeRu");
+  support::InstallSuite("C:\\TeRu");
   EXPECT_EQ(Parse("V=TERUPATH,$terupath,$TERU"), (Texts{"V", "TERUPATH", "$terupath", "$TERU", "", "", "", ""}));
   EXPECT_EQ(Log(), Texts{});
 }
 
 TEST_F(ParserTest, AnExportPathIsReplacedInsideALongerWord) {
-  SetDestination("C:\\TeRu");
+  support::InstallSuite("C:\\TeRu");
   support::TargetWindow("TARVEN/4711/2005/FIBU");
   EXPECT_EQ(Parse("SETTEXT=$PATHX")[1], "C:\\TeRu\\Extern\\4711\\2005X");
 }
 
 TEST_F(ParserTest, ALineThatAValueEmptiesIsAnEmptyVerb) {
-  SetDestination("C:\\TeRu");  // without a client the path of the area is empty
+  support::InstallSuite("C:\\TeRu");  // without a client the path of the area is empty
   EXPECT_EQ(Parse("$GDPDUPATH"), (Texts{"", "", "", "", "", "", "", ""}));
 }
 

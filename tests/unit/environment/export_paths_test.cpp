@@ -21,7 +21,6 @@ using namespace support;
 using Lines = std::vector<std::string>;
 
 // What each look for the data directory logs.
-const Lines kDiscovery = {"GetTeRuDestination (2. RegValue): C:\\TeRu", "Ausgabeverzeichnis erstellt: C:\\TeRu\\"};
 
 class ExportPathsTest : public SystemTest {
  protected:
@@ -61,7 +60,7 @@ TEST_F(ExportPathsTest, OnlyTheWholeTextIsTrimmed) {
 }
 
 TEST_F(ExportPathsTest, ABlankInFrontOfTheDataDirectoryStaysInTheAssetPathAlone) {
-  Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {platform::REG_SZ, std::string(" C:\\TeRu\0", 9)};
+  InstallSuite(" C:\\TeRu");
   clients.ContextPath = "\\4711\\2003";
   EXPECT_EQ(GetExportPath(""), "C:\\TeRu\\Extern\\4711\\2003");
   EXPECT_EQ(GetExportPath("GDPDU"), "C:\\TeRu\\Extern\\4711\\FIBU\\2003\\GDPDU");

@@ -21,8 +21,7 @@ const std::string kNoRow = "Fehler in Funktion Parse:Index außerhalb des gülti
 class ResultParsingTest : public SystemTest {
  protected:
   ResultParsingTest() {
-    platform::simulated::Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {platform::REG_SZ,
-                                                                                        std::string("D:\\Data\0", 8)};
+    InstallSuite("D:\\Data");
     clients.Matrix = {{.Beginn = "01.01.2003"}};
   }
 

@@ -18,7 +18,6 @@ using namespace support;
 using Lines = std::vector<std::string>;
 
 const std::string kSettings = kProgram + "\\QUMAEXP.INI";
-const Lines kDiscovery = {"GetTeRuDestination (2. RegValue): C:\\TeRu", "Ausgabeverzeichnis erstellt: C:\\TeRu\\"};
 
 class BadInputTest : public SystemTest {
  protected:

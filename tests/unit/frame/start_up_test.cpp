@@ -21,14 +21,13 @@ using support::Log;
 using Lines = std::vector<std::string>;
 
 const std::string kLogFile = support::kProgram + "\\QUMAEXP.LOG";
-const Lines kDiscovery = {"GetTeRuDestination (2. RegValue): C:\\TeRu", "Ausgabeverzeichnis erstellt: C:\\TeRu\\"};
 
 class StartUpTest : public support::SystemTest {
  protected:
   StartUpTest() {
     log = {};
     FileSystemState.reset();
-    Registry()["Software\\TARVEN\\Setup\\Destinations"]["Teru"] = {platform::REG_SZ, std::string("C:\\TeRu\0", 9)};
+    support::InstallSuite();
     PutFile(kLogFile, "");
   }
 
@@ -38,19 +37,19 @@ class StartUpTest : public support::SystemTest {
 TEST_F(StartUpTest, AnExistingLogIsContinued) {
   PutFile(kLogFile, "früher\r\n");
   frmMain.Load();
-  support::ExpectLog(Lines{"früher"} + kDiscovery);
+  support::ExpectLog(Lines{"früher"} + support::kDiscovery);
 }
 
 TEST_F(StartUpTest, AMissingLogIsMade) {
   support::Macro("QUMAEXP.LOG", {});
   SetApplicationPath("C:\\Neu");
   frmMain.Load();
-  EXPECT_EQ(support::LinesOf("C:\\Neu\\QUMAEXP.LOG"), kDiscovery);
+  EXPECT_EQ(support::LinesOf("C:\\Neu\\QUMAEXP.LOG"), support::kDiscovery);
 }
 
 TEST_F(StartUpTest, TheDiscoveryRunsOnce) {
   frmMain.Load();
-  support::ExpectLog(kDiscovery);
+  support::ExpectLog(support::kDiscovery);
 }
 
 TEST_F(StartUpTest, TheDiscoveryAsksBeforeTheProgramCanBeTriggered) {
