@@ -7,7 +7,8 @@
 
 namespace standin {
 
-// As text, in the place of whatever is there; journaled. Nothing happens while another program holds the clipboard.
+// As text, in the place of whatever is there; journaled. When another program holds the clipboard for more than a
+// second, the journal says so and nothing else happens.
 void PutOnClipboard(HWND owner, const std::string& text);
 
 }  // namespace standin

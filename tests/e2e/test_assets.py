@@ -136,10 +136,10 @@ class AssetQuestionTest(AssetTest):
         self.start_program()
         self.open_dialog()
         self.press(ASSET_CAPTION)
-        window = self.dialog("Mandant 4711, Jahr 2005?", "GWG in Auswertungen:", seconds=30)
+        window = self.dialog("Mandant 4711, Jahr 2005?", "GWG in Auswertungen:")
         treatment = self.probe.control(window, class_name="ComboBox")
         cb_getcursel = 327
-        wait_until(lambda: self.probe.send(treatment, cb_getcursel) == 1, 5, "the proposed treatment")
+        wait_until(lambda: self.probe.send(treatment, cb_getcursel) == 1, "the proposed treatment")
         time.sleep(0.3)  # the window manager names a window as the active one before keys reach it
         self.desktop.key("Up", "Down", "space", "Return")  # the second of the years 2002 to 2005
         self.wait_run_ended()

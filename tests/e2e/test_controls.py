@@ -379,7 +379,7 @@ SETFOCUSCTL=
     def test_a_window_is_closed_by_its_whole_title(self):
         log = self.run_macro(f"CLOSEWINDOW={RECORD[1:]},1\nCLOSEWINDOW={RECORD},1\n")
         self.assertEqual(log, ["Fenster wurde geschlossen."] * 2)
-        wait_until(lambda: not self.probe.windows(RECORD), 5, "the closed dialog")
+        wait_until(lambda: not self.probe.windows(RECORD), "the closed dialog")
 
     def test_status_dialog_is_hidden_and_shown(self):
         self.begin_macro(f"""\

@@ -35,7 +35,7 @@ class DemoMacroTest(ClientRecordTest):
         self.probe.post(self.record, WM_COMMAND, COPY)
         box = self.probe.window(RECORD, where=lambda window: window.handle != self.record.handle)
         self.probe.post(box, WM_COMMAND, self.probe.control(box, text="Ja").id)
-        wait_until(lambda: self.teru_log()[-1].startswith("Zwischenablage"), "the filled clipboard")
+        wait_until(lambda: any(line.startswith("Zwischenablage: ") for line in self.teru_log()), "the filled clipboard")
         self.heard_before = len(self.teru_log())
 
     def test_macro_works_through_the_dialog(self):

@@ -119,7 +119,7 @@ class ClicksTest(InputTest):
         left, _, _, bottom = self.window.place
         x, y = left + 10, bottom - 12
         self.run_macro(f"MOUSEMOVE={x},{y}\nMOUSECLICK=right\nMOUSEMOVE={x + 1},{y - 1}\nMOUSECLICK=left\n")
-        wait_until(lambda: len(self.clicks()) == 2, 10, "the clicks")
+        wait_until(lambda: len(self.clicks()) == 2, "the clicks")
         self.assertEqual(self.clicks(), [f"rechts: {x}/{y}", f"links: {x + 1}/{y - 1}"])
         moved = [line for line in self.log() if line.startswith("Maus")]
         self.assertEqual(
