@@ -175,8 +175,14 @@ void WhileMessageBox(std::function<void(const ShownBox&)> hook);
 const std::vector<OPENFILENAME>& FileDialogs();
 void AnswerFileDialog(std::string path);
 
+struct StartedProgram {
+  std::string command;
+  std::uint32_t showStyle = SW_SHOWNORMAL;  // for its window
+
+  bool operator==(const StartedProgram&) const = default;
+};
 // Programs started so far; one that was named as missing fails to start.
-const std::vector<std::string>& StartedPrograms();
+const std::vector<StartedProgram>& StartedPrograms();
 void SetMissingProgram(const std::string& command);
 
 // Registry: key path below HKEY_LOCAL_MACHINE (without a trailing backslash), value name, type and raw bytes.

@@ -72,7 +72,7 @@ void MouseAtTray(std::uint32_t message) {
                                   static_cast<std::int32_t>(message)}});
 }
 
-const std::vector<std::string>& StartedPrograms() { return TheDesktop().startedPrograms; }
+const std::vector<StartedProgram>& StartedPrograms() { return TheDesktop().startedPrograms; }
 void SetMissingProgram(const std::string& command) { TheDesktop().missingPrograms.push_back(command); }
 
 }  // namespace simulated
@@ -119,10 +119,10 @@ std::int32_t LoadIconA(const std::string& name) {
   return found == kIcons.end() ? 0 : kFirstIcon + static_cast<std::int32_t>(found - kIcons.begin());
 }
 
-std::uint32_t StartProgram(const std::string& command, std::uint32_t /*showStyle*/) {
+std::uint32_t StartProgram(const std::string& command, std::uint32_t showStyle) {
   Desktop& desktop = TheDesktop();
   if (Fails("StartProgram") || std::ranges::count(desktop.missingPrograms, command) != 0) return 0;
-  desktop.startedPrograms.push_back(command);
+  desktop.startedPrograms.push_back({command, showStyle});
   return desktop.nextProcess++;
 }
 

@@ -142,7 +142,7 @@ struct Desktop {
   std::vector<HotKey> hotKeys;
   std::optional<TrayIcon> tray;
   std::vector<TrayCall> trayCalls;
-  std::vector<std::string> startedPrograms;
+  std::vector<StartedProgram> startedPrograms;
   std::vector<std::string> missingPrograms;
   std::vector<ShownBox> messageBoxes;
   std::function<void(const ShownBox&)> whileMessageBox;

@@ -10,13 +10,14 @@ namespace {
 using namespace platform::simulated;
 using namespace support;
 
-using Lines = std::vector<std::string>;
+// In a normal window.
+using Programs = std::vector<StartedProgram>;
 
 class ProgramStartTest : public SystemTest {};
 
 TEST_F(ProgramStartTest, ItStartsTheCommandWithoutWaiting) {
   EXPECT_TRUE(basMain::ExecuteProgram("C:\\Prog\\tarven.exe /x"));
-  EXPECT_EQ(StartedPrograms(), Lines{"C:\\Prog\\tarven.exe /x"});
+  EXPECT_EQ(StartedPrograms(), Programs{{"C:\\Prog\\tarven.exe /x"}});
   EXPECT_EQ(Clock(), 0);
   ExpectLog({"Programm wird ausgeführt: C:\\Prog\\tarven.exe /x"});
 }
@@ -30,7 +31,7 @@ TEST_F(ProgramStartTest, AProgramThatDoesNotStartFailsTheRun) {
 
 TEST_F(ProgramStartTest, AllFormsOfTheVerb) {
   EXPECT_TRUE(RunLines({"EXEC=a.exe", "EXE=b.exe", "EXECUTE=c.exe"}));
-  EXPECT_EQ(StartedPrograms(), (Lines{"a.exe", "b.exe", "c.exe"}));
+  EXPECT_EQ(StartedPrograms(), (Programs{{"a.exe"}, {"b.exe"}, {"c.exe"}}));
 }
 
 TEST_F(ProgramStartTest, AllConditionsOfTheVerb) {

@@ -25,7 +25,7 @@ class AboutTest : public support::SystemTest {
   std::string Started() {
     frmAbout.Show();
     forms::simulated::Press(frmAbout.cmdSysInfo);
-    return StartedPrograms().empty() ? "" : StartedPrograms().back();
+    return StartedPrograms().empty() ? "" : StartedPrograms().back().command;
   }
 
   void ExpectNotAvailable() {

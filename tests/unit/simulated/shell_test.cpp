@@ -222,10 +222,11 @@ TEST_F(SimulatedShell, ProgramsAreStartedUnlessTheyAreMissing) {
   platform::simulated::SetMissingProgram("fehlt.exe");
   EXPECT_EQ(platform::StartProgram("fehlt.exe", 1), 0u);
   const auto first = platform::StartProgram("notepad.exe a.txt", 1);
-  const auto second = platform::StartProgram("calc.exe", 1);
+  const auto second = platform::StartProgram("calc.exe", 3);
   EXPECT_NE(first, 0u);
   EXPECT_NE(first, second);
-  EXPECT_EQ(platform::simulated::StartedPrograms(), (std::vector<std::string>{"notepad.exe a.txt", "calc.exe"}));
+  EXPECT_EQ(platform::simulated::StartedPrograms(),
+            (std::vector<platform::simulated::StartedProgram>{{"notepad.exe a.txt", 1}, {"calc.exe", 3}}));
 }
 
 TEST_F(SimulatedShell, EndOfTheProgramIsNoFault) {
