@@ -61,6 +61,7 @@ void AddRow(const std::string& area, const std::string& year) {
   Do([&] { RowAt(LastRow()).Bereich = area; });
   Do([&] { RowAt(LastRow()).Beginn = year.substr(0, 10); });
   Do([&] { RowAt(LastRow()).Ende = EndOfFullYear(RowAt(LastRow()).Beginn); });
+  Do([&] { RowAt(LastRow()).Checked = false; });
   clients.Matrix.emplace_back();
 }
 

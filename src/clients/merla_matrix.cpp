@@ -117,9 +117,18 @@ void DropSpareRow() {
   clients.MerMatrix.pop_back();
 }
 
+// A statement of GetMerJahrVonBis.
+template <class Statement>
+void NoteDates(Statement&& statement) {
+  NoteFault("GetMerJahrVonBis", statement);
+}
+
+// A box that cannot be read is an empty part.
 std::string DateIn(std::int32_t field) {
   const auto box = [&](std::int32_t id) {
-    return ReadControlText(SearchChildWindow(field, "", "", kDateBoxClass, id));
+    std::string text;
+    NoteDates([&] { text = ReadControlText(SearchChildWindow(field, "", "", kDateBoxClass, id)); });
+    return text;
   };
   const std::string year = box(kYearBox);
   const std::string day = box(kDayBox);
@@ -165,9 +174,8 @@ bool CreateMerlaMatrix(const std::string& id, const std::string& window, const s
 }
 
 void GetMerJahrVonBis(std::string& from, std::string& to) {
-  const auto note = [](auto&& statement) { NoteFault("GetMerJahrVonBis", statement); };
   std::int32_t hFrame = 0;
-  note([&] { hFrame = FindYearFrame(Version()); });
+  NoteDates([&] { hFrame = FindYearFrame(Version()); });
   FindChildrenOfClass(hFrame, kDateFieldClass, 0);
 
   std::string first;
@@ -175,14 +183,13 @@ void GetMerJahrVonBis(std::string& from, std::string& to) {
   for (std::size_t k = 0; k < inputRoom.ClassWindows.size(); ++k) {
     const std::int32_t field = inputRoom.ClassWindows[k];
     if (field == 0) continue;
-    std::string date;
-    note([&] { date = DateIn(field); });
+    const std::string date = DateIn(field);
     if (k == 0) first = date;
     if (k == 1) second = date;
   }
 
   bool swapped = false;
-  note([&] { swapped = DateOf(second) <= DateOf(first); });
+  NoteDates([&] { swapped = DateOf(second) <= DateOf(first); });
   from = swapped ? second : first;
   to = swapped ? first : second;
 }

@@ -342,6 +342,22 @@ TEST_F(AssetMatrixTest, ATextThatNoComboBoxShowsFails) {
   EXPECT_EQ(run.LastError, kNoAreas);
 }
 
+TEST_F(AssetMatrixTest, YearsInAComboBoxThatShowsAnotherTextAreNotRead) {
+  SetAreas({{"A", {"01.01.2004"}}});
+  for (const std::int32_t combo : {areas_, years_}) At(combo).process = kOwnProcess;
+  At(areas_).text = "Auswahl";
+  At(years_).text = "anders";
+  EXPECT_TRUE(Create("Auswahl"));
+  EXPECT_EQ(Begins(), Texts{});
+}
+
+TEST_F(AssetMatrixTest, TheDialogIsFoundByAPartOfItsTitle) {
+  SetAreas({{"A", {"01.01.2004"}}});
+  EXPECT_TRUE(CreateMatrix(std::to_string(kYears), std::to_string(kAreas), "exportieren", "", ""));
+  EXPECT_EQ(LogCount(kNotSelected), 0);
+  EXPECT_EQ(Begins(), Texts{"01.01.2004"});
+}
+
 TEST_F(AssetMatrixTest, ThePositionIsLeftAlone) {
   SetAreas({{"A", {"01.01.2004"}}});
   clients.MatrixPos = 7;
@@ -367,6 +383,19 @@ TEST_F(AssetMatrixTest, ATableThatVanishesInTheMiddleIsNoCrash) {
   };
   EXPECT_TRUE(Create());
   EXPECT_EQ(run.LastError, kNoBounds);
+}
+
+TEST_F(AssetMatrixTest, ARowThatANestedRunHasCheckedIsFilledUnchecked) {
+  SetAreas({{"A", {"01.01.2004"}}});
+  At(dialog_).procedure = [this](const Message& message) -> std::optional<std::int32_t> {
+    if (message.number != platform::WM_COMMAND) return std::nullopt;
+    clients.Matrix.assign(1, {.Bereich = "B", .Beginn = "01.01.1999", .Ende = "31.12.1999", .Checked = true});
+    AreaChosen();
+    return std::nullopt;
+  };
+  EXPECT_TRUE(Create());
+  EXPECT_EQ(Begins(), Texts{"01.01.2004"});
+  EXPECT_EQ(Checks(), std::vector{false});
 }
 
 TEST_F(AssetMatrixTest, AThousandYearsOfAHundredAreas) {

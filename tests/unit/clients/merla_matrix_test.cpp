@@ -530,6 +530,17 @@ TEST_F(MerlaDatesTest, AFieldWithoutABoxHasAnEmptyPart) {
   EXPECT_EQ(run.LastError, kNoDate);
 }
 
+TEST_F(MerlaDatesTest, ABoxThatCannotBeReadIsAnEmptyPart) {
+  SetDate(first_, "31.12.2005");
+  SetDate(last_, "01.01.2005");
+  At(At(first_).children[1]).procedure = [](const Message& message) -> std::optional<std::int32_t> {
+    if (message.number == platform::WM_GETTEXT) return -1;
+    return std::nullopt;
+  };
+  ExpectDates("31..2005", "01.01.2005");
+  EXPECT_EQ(run.LastError, kNoDate);
+}
+
 TEST_F(MerlaDatesTest, TheFrameIsFoundByWholeTitleTextAndId) {
   SetDate(first_, "01.01.2005");
   SetDate(last_, "31.12.2005");
