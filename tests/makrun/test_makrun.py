@@ -58,6 +58,11 @@ class MakrunTest(unittest.TestCase):
             ([macro, macro], "one macro at a time"),
             (["--unknown", macro], "there is no option --unknown"),
             ([macro, "--desktop"], "--desktop wants a value"),
+            ([""], "no macro is named"),
+            (["--desktop", "", macro], "--desktop wants a value"),
+            (["--ini", "", macro], "--ini wants a value"),
+            (["--drive", "", macro], "--drive wants a value"),
+            (["--clipboard", "", macro], "--clipboard wants a value"),
             (["--resume", "x", macro], "--resume wants a number"),
             (["--resume", "-1", macro], "--resume wants a number"),
             (["--time-limit", "2000001", macro], "--time-limit wants a number from 0 to 2000000"),
@@ -82,6 +87,26 @@ class MakrunTest(unittest.TestCase):
                 self.assertEqual(self.makrun(*arguments, status=66), [])
                 self.assertIn(arguments[-2] if arguments[0] == "--drive" else missing
                               if missing in arguments else str(self.folder), self.errors)
+
+    def test_a_drive_on_which_the_program_cannot_write_ends_with_66_and_is_named(self):
+        drive = self.folder / "drive"
+        (drive / "QUMA" / "QUMAEXP.LOG").mkdir(parents=True)
+        macro = self.macro("MSG=a")
+        self.assertEqual(self.makrun("--drive", drive, macro, status=66), [])
+        self.assertIn("C:\\QUMA\\QUMAEXP.LOG cannot be written", self.errors)
+        blocked = self.folder / "blocked"
+        blocked.mkdir()
+        (blocked / "QUMA").write_text("")
+        self.assertEqual(self.makrun("--drive", blocked, macro, status=66), [])
+        self.assertIn("blocked/QUMA", self.errors)
+
+    def test_a_macro_whose_name_the_program_cannot_open_ends_with_66_and_is_named(self):
+        self.assertEqual(self.makrun(self.macro("MSG=a", name="Ж.mak"), status=66), [])
+        self.assertIn("?.mak cannot be made", self.errors)
+
+    def test_a_macro_can_come_from_a_pipe(self):
+        done = subprocess.run([str(MAKRUN), "/dev/stdin"], input=b"MSG=a\r\n", capture_output=True, timeout=60)
+        self.assertEqual(done.stdout.decode().splitlines(), ["MSG: a", *COMPLETED])
 
     def test_help_tells_the_options(self):
         self.assertIn("--desktop FILE", "\n".join(self.makrun("--help")))
@@ -237,12 +262,17 @@ class MakrunTest(unittest.TestCase):
             (window + "  farbe rot", 2, "a property of the window"),
             (window + "  at 1 2 3", 2, "left, top, width and height"),
             (window + "  at 1 2 3 x", 2, "left, top, width and height"),
+            (window + "  at 1 2 3 -4", 2, "left, top, width and height"),
+            (window + "  at 32768 2 3 4", 2, "left, top, width and height"),
+            (window + "  at 1 2 2147483647 4", 2, "left, top, width and height"),
             (window + "  control Button x", 2, "the control's id, a number"),
             (window + "  control", 2, "a class, an id and a text"),
             (window + "  control Button 1 OK", 2, "the control's text in double quotes"),
             (window + "  control Button 1\n    style rund", 3, "checkbox, option, frame or single-selection"),
             (window + "  control ComboBox 1\n    items a", 3, "the entries in double quotes"),
             (window + "  control ComboBox 1\n    selected erster", 3, "the number of an entry"),
+            (window + "  control ComboBox 1\n    selected -1", 3, "the number of an entry"),
+            (window + "  control SysListView32 1\n    marked -1", 3, "the number of a row"),
             (window + "  control Button 1\n    class Button", 3, "a property of the window"),
             (window + "  on klick 1\n    close main", 2, "command, notification, key, character, text or close"),
             (window + "  on character a\n    close main", 2, "the code of the character"),
@@ -253,6 +283,9 @@ class MakrunTest(unittest.TestCase):
             (window + "  on command 1\n    clear fehlt.1", 3, "the name of a window of this file, or NAME.ID"),
             (window + "  on command", 2, "the id of the command"),
             (window + "  on notification 1", 2, "the code of the notification"),
+            (window + "  on notification 1 32768\n    close main", 2, "the code of the notification"),
+            (window + "  on notification 1 -1\n    close main", 2, "the code of the notification"),
+            (window + "  on command 1\n    after -1\n      close main", 3, "milliseconds"),
             (window + "  on command 1", 2, "indented actions below this line"),
             (window + "  on command 1\n    springe", 3, "one of the actions"),
             (window + "  on command 1\n    open fehlt", 3, "the name of a window of this file"),
@@ -269,6 +302,7 @@ class MakrunTest(unittest.TestCase):
             ('file "C:\\x" y', 1, "the file's lines in double quotes"),
             ('file "C:\\x"\n  hidden', 2, 'nothing below "file"'),
             ('file "Q:\\x" "y"', 1, "a path of a drive that there is"),
+            ('folder "C:\\x"\nfile "C:\\x" "y"', 2, "C:\\x cannot be made"),
             ('folder "Q:\\x"', 1, "a path of a drive that there is"),
             ('registry "a" "b"', 1, "the value's text"),
             ('environment "a"', 1, "the variable's text"),
@@ -404,6 +438,13 @@ class MakrunTest(unittest.TestCase):
         log = self.makrun(*arguments, self.macro(
             "DIM A", "MENUCLICK=1,TeRu,1", "WAIT=1", "A=READTEXT(5,TeRu,1,ThunderRT6Textbox)"))
         self.assertEqual(log[-4:], ["ReadText: grün--gelb", "Zeile", *COMPLETED])
+
+    def test_a_registry_key_is_found_whatever_its_case(self):
+        for key, name in [("Software\\TARVEN\\Setup\\Destinations", "Teru"),
+                          ("SOFTWARE\\Tarven\\setup\\Destinations\\", "TERU")]:
+            with self.subTest(key):
+                arguments = self.desktop(f'window main "TeRu"\nregistry "{key}" "{name}" "C:\\Daten"\n')
+                self.assertIn("MSG: C:\\Daten\\Extern", self.makrun(*arguments, self.macro("MSG=$TERUPATH")))
 
     def test_an_action_that_cannot_make_its_file_ends_with_66_and_names_the_file(self):
         arguments = self.desktop('window main "TeRu"\n  on command 7\n    write "Q:\\Größe.csv" "a"\n')

@@ -218,9 +218,7 @@ Action ActionReader::Append(Arguments& arguments) const {
 
 Action ActionReader::Grow(Arguments& arguments) const {
   const std::string path = arguments.Text("the file's path in double quotes");
-  const std::string expected = "the bytes by which the file grows";
-  const std::int32_t size = arguments.Number(expected);
-  if (size < 0) arguments.Mistake(expected);
+  const std::int32_t size = arguments.Number("the bytes by which the file grows", 0);
   return [=] {
     const std::string file = Filled(path);
     PutSimulatedFile(file, simulated::GetFile(file) + std::string(static_cast<std::size_t>(size), 'x'));
@@ -228,9 +226,7 @@ Action ActionReader::Grow(Arguments& arguments) const {
 }
 
 Action ActionReader::ReadDelay(const Statement& statement, Arguments& arguments) const {
-  const std::string expected = "milliseconds";
-  const std::int32_t milliseconds = arguments.Number(expected);
-  if (milliseconds < 0) arguments.Mistake(expected);
+  const std::int32_t milliseconds = arguments.Number("milliseconds", 0);
   return [milliseconds, actions = Read(statement)] { simulated::Schedule(milliseconds, [=] { Carry(actions); }); };
 }
 

@@ -16,11 +16,12 @@ const std::string& Arguments::Name(const std::string& expected) {
   return statement_.words[next_++].text;
 }
 
-std::int32_t Arguments::Number(const std::string& expected) {
+std::int32_t Arguments::Number(const std::string& expected, std::int32_t lowest, std::int32_t highest) {
   const std::string& text = Name(expected);
   std::int32_t number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) Mistake(expected);
+  if (error != std::errc() || end != text.data() + text.size() || number < lowest || number > highest)
+    Mistake(expected);
   return number;
 }
 

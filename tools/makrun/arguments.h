@@ -22,7 +22,7 @@ class Arguments {
   const std::string& Text(const std::string& expected);
   // A word, or a text that stands for a word with blanks.
   const std::string& Name(const std::string& expected);
-  std::int32_t Number(const std::string& expected);
+  std::int32_t Number(const std::string& expected, std::int32_t lowest = INT32_MIN, std::int32_t highest = INT32_MAX);
   // All that is left, texts in double quotes.
   std::vector<std::string> Texts(const std::string& expected);
   // Nothing is left.

@@ -53,6 +53,13 @@ class Loader {
     }
   }
 
+  static void WriteRegistry(const std::string& key, const std::string& value, const std::string& text) {
+    std::int32_t hKey = 0;
+    platform::RegCreateKeyA(platform::HKEY_LOCAL_MACHINE, key, hKey);
+    platform::RegSetValueExA(hKey, value, platform::REG_SZ, text + '\0');
+    platform::RegCloseKey(hKey);
+  }
+
   void ReadTopLevel(const Statement& statement) {
     const std::string& word = statement.words[0].text;
     Arguments arguments(path_, statement);
@@ -82,8 +89,7 @@ class Loader {
     } else if (word == "registry") {
       const std::string& key = arguments.Text("a key of the registry in double quotes");
       const std::string& value = arguments.Text("the value's name in double quotes");
-      simulated::Registry()[key][value] = {platform::REG_SZ,
-                                           arguments.Text("the value's text in double quotes") + std::string(1, '\0')};
+      WriteRegistry(key, value, arguments.Text("the value's text in double quotes"));
     } else if (word == "environment") {
       const std::string& name = arguments.Text("the variable's name in double quotes");
       simulated::SetEnvironmentVariable(name, arguments.Text("the variable's text in double quotes"));
@@ -155,9 +161,9 @@ class Loader {
     else if (word == "checked") window.check = 1;
     else if (word == "style") window.style = StyleOf(arguments);
     else if (word == "items") window.entries = arguments.Texts("the entries in double quotes");
-    else if (word == "selected") window.selection = arguments.Number("the number of an entry, from 0");
+    else if (word == "selected") window.selection = arguments.Number("the number of an entry, from 0", 0);
     else if (word == "row") window.rows.push_back({arguments.Texts("the row's cells in double quotes"), 0});
-    else if (word == "marked") window.selectionMark = arguments.Number("the number of a row, from 0");
+    else if (word == "marked") window.selectionMark = arguments.Number("the number of a row, from 0", 0);
     else if (word == "by-parameter") window.rowFromParameter = true;
     else if (word == "refuses-text") plan.refusesText = true;
     else arguments.Mistake("a property of the window, a control or a reaction instead of \"" + word + "\"");
@@ -165,10 +171,11 @@ class Loader {
 
   static void ReadPlace(Arguments& arguments, platform::Rect& place) {
     const std::string expected = "left, top, width and height in pixels";
-    place.left = arguments.Number(expected);
-    place.top = arguments.Number(expected);
-    place.right = place.left + arguments.Number(expected);
-    place.bottom = place.top + arguments.Number(expected);
+    constexpr std::int32_t kFarthest = 32767;
+    place.left = arguments.Number(expected, -kFarthest, kFarthest);
+    place.top = arguments.Number(expected, -kFarthest, kFarthest);
+    place.right = place.left + arguments.Number(expected, 0, kFarthest);
+    place.bottom = place.top + arguments.Number(expected, 0, kFarthest);
   }
 
   static std::uint32_t StyleOf(Arguments& arguments) {
@@ -194,7 +201,8 @@ class Loader {
     Reaction reaction;
     if (event == "command" || event == "notification") {
       const std::int32_t id = arguments.Number("the id of the command, a number");
-      const std::int32_t code = event == "command" ? 0 : arguments.Number("the code of the notification, a number");
+      const std::int32_t code =
+          event == "command" ? 0 : arguments.Number("the code of the notification, a number", 0, 32767);
       reaction.wanted = [=](const Message& message) {
         return message.number == platform::WM_COMMAND && message.wParam == code * 65536 + (id & 0xFFFF);
       };

@@ -1,5 +1,6 @@
 // makrun: rehearses a macro on a simulated desktop and prints the log of the run.
 #include <cstdio>
+#include <exception>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,9 @@ int main(int argc, char** argv) {
     return kWrongUsage;
   } catch (const makrun::FileError& error) {
     Complain(error.text);
+    return kUnreadable;
+  } catch (const std::exception& error) {  // of the host: the drive's folder, or one for temporary files
+    Complain(error.what());
     return kUnreadable;
   }
 }

@@ -44,6 +44,12 @@ Answer ReadAnswer(const std::string& text) {
   return {name.substr(0, point), name.substr(point + 1), equals == std::string::npos ? "" : text.substr(equals + 1)};
 }
 
+// A file or folder; the empty text would stand for an option that is not given.
+std::string ReadPath(const std::string& option, const std::string& text) {
+  if (text.empty()) throw UsageError{option + " wants a value"};
+  return text;
+}
+
 bool ReadFamily(const std::string& text) {
   if (text == "nt" || text == "9x") return text == "nt";
   throw UsageError{"--family wants nt or 9x, not \"" + text + "\""};
@@ -85,12 +91,12 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
   };
   using Text = const std::string&;
   const std::map<std::string, std::function<void(Text)>> settings = {
-      {"--desktop", [&](Text text) { options.desktop = text; }},
+      {"--desktop", [&](Text text) { options.desktop = ReadPath("--desktop", text); }},
       {"--caption", [&](Text text) { options.caption = text; }},
-      {"--ini", [&](Text text) { options.ini = text; }},
-      {"--drive", [&](Text text) { options.drive = text; }},
+      {"--ini", [&](Text text) { options.ini = ReadPath("--ini", text); }},
+      {"--drive", [&](Text text) { options.drive = ReadPath("--drive", text); }},
       {"--answer", [&](Text text) { options.answers.push_back(ReadAnswer(text)); }},
-      {"--clipboard", [&](Text text) { options.clipboard = text; }},
+      {"--clipboard", [&](Text text) { options.clipboard = ReadPath("--clipboard", text); }},
       {"--resume", [&](Text text) { options.resumes = ReadNumber("--resume", text, 1'000'000); }},
       {"--now", [&](Text text) { options.now = ReadTime(text); }},
       {"--family", [&](Text text) { options.nt = ReadFamily(text); }},

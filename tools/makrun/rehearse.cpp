@@ -36,6 +36,8 @@ constexpr std::int32_t kGrace = 60;
 
 struct LineLimitPassed {};
 
+std::string MacroName(const Options& options) { return ProgramText(fs::path(options.macro).filename().string()); }
+
 void PrepareSystem(const Options& options) {
   if (!options.drive.empty()) {
     std::error_code error;
@@ -53,7 +55,7 @@ void FillProgramFolder(const Options& options) {
   const fs::path macro(options.macro);
   const fs::path beside = macro.has_parent_path() ? macro.parent_path() : fs::path(".");
   const fs::path program(simulated::HostPath(kProgram));
-  ReadHostFile(options.macro);  // says why it cannot be read
+  const std::string text = ReadHostFile(options.macro);
   std::error_code error;
   if (!fs::equivalent(beside, program, error)) {
     for (const auto& entry : fs::directory_iterator(beside, error)) {
@@ -61,6 +63,8 @@ void FillProgramFolder(const Options& options) {
       fs::copy_file(entry.path(), program / entry.path().filename(), fs::copy_options::overwrite_existing, error);
       if (error) throw FileError{entry.path().string() + " cannot be copied: " + error.message()};
     }
+    // Also one that the folder does not list as a file. A name that the program cannot open is told here.
+    PutSimulatedFile(kProgram + "\\" + MacroName(options), text);
   }
   if (!options.ini.empty()) simulated::PutFile(kProgram + "\\QUMAEXP.INI", ReadHostFile(options.ini));
 }
@@ -127,12 +131,12 @@ void GiveUp(Rehearsal& rehearsal, const std::string& why) {
 }  // namespace
 
 Rehearsal Rehearse(const Options& options) {
-  const std::string macro = ProgramText(fs::path(options.macro).filename().string());
   const rehearsal::FreshSystem system;
   PrepareSystem(options);
   FillProgramFolder(options);
   PrepareDesktop(options);
   rehearsal::StartProgram();
+  if (!basMain::log.LogStream) throw FileError{basMain::LogFile() + " cannot be written"};
   const std::size_t older = rehearsal::LinesOf(basMain::LogFile()).size();
   DialogAnswers answers(options.answers);
   LimitTime(options.timeLimit);
@@ -142,7 +146,7 @@ Rehearsal Rehearse(const Options& options) {
 
   Rehearsal result;
   try {
-    result.outcome = Perform(options, macro);
+    result.outcome = Perform(options, MacroName(options));
     if (result.outcome == Outcome::Failed) result.reason = run.LastError;
     if (visited == 0) {
       result.outcome = simulated::MessageBoxes().empty() ? Outcome::Stopped : Outcome::Failed;

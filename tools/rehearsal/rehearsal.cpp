@@ -44,8 +44,13 @@ FreshSystem::FreshSystem() { ResetSystem(); }
 FreshSystem::~FreshSystem() { ResetSystem(); }
 
 void StartProgram() {
-  simulated::Registry()["Software\\TARVEN\\Setup\\Destinations"].try_emplace(
-      "Teru", simulated::RegistryValue{platform::REG_SZ, std::string("C:\\TeRu\0", 9)});
+  std::int32_t hKey = 0;
+  std::uint32_t type = 0;
+  std::uint32_t size = 0;
+  platform::RegCreateKeyA(platform::HKEY_LOCAL_MACHINE, "Software\\TARVEN\\Setup\\Destinations", hKey);
+  if (platform::RegQueryValueExA(hKey, "Teru", type, nullptr, size) != 0)
+    platform::RegSetValueExA(hKey, "Teru", platform::REG_SZ, std::string("C:\\TeRu\0", 9));
+  platform::RegCloseKey(hKey);
   basMain::frmMain.Load();
 }
 

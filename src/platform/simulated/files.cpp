@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -73,7 +74,9 @@ HostFile::~HostFile() {
 
 void PutFile(const std::string& path, const std::string& bytes) {
   std::filesystem::create_directories(HostPath(FolderOf(FullPath(path))));
-  std::ofstream(HostPath(path), std::ios::binary | std::ios::trunc) << bytes;
+  const std::string file = HostPath(path);
+  if (!(std::ofstream(file, std::ios::binary | std::ios::trunc) << bytes << std::flush))
+    throw std::filesystem::filesystem_error("cannot be written", file, std::error_code(errno, std::generic_category()));
 }
 
 std::string GetFile(const std::string& path) {
