@@ -59,7 +59,8 @@ void ModalSession::End() {
   ended_ = true;
   std::erase(sessions, this);
   for (const HWND other : disabled_) ::EnableWindow(other, TRUE);
-  if (::GetForegroundWindow() == window_) ::SetForegroundWindow(previous_);
+  // The main form, in front for its menu, is never seen: the system then finds the window that was in front before.
+  if (::GetForegroundWindow() == window_ && ::IsWindowVisible(previous_)) ::SetForegroundWindow(previous_);
   // Its loop may be waiting for a message.
   ::PostThreadMessageA(::GetCurrentThreadId(), WM_NULL, 0, 0);
 }
