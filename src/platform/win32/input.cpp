@@ -118,11 +118,12 @@ bool WaitForKeys() {
 
 bool AttachThreadInput(std::uint32_t idAttach, std::uint32_t idAttachTo, bool fAttach) {
   const HWND front = ::GetForegroundWindow();
-  if (!::AttachThreadInput(idAttach, idAttachTo, fAttach ? TRUE : FALSE)) return false;
   const DWORD own = ::GetCurrentThreadId();
   const DWORD other = idAttach == own ? idAttachTo : idAttach;
+  // Also when the system refuses: a thread that has ended is parted, and another one may get its number.
+  if (!fAttach) joinedThreads.erase(other);
+  if (!::AttachThreadInput(idAttach, idAttachTo, fAttach ? TRUE : FALSE)) return false;
   if (fAttach) joinedThreads.insert(other);
-  else joinedThreads.erase(other);
   // Not every version of the system leaves the foreground alone.
   if (!fAttach && ::GetForegroundWindow() != front) ::SetForegroundWindow(front);
   return true;
