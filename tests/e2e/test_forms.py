@@ -3,7 +3,7 @@
 import subprocess
 import unittest
 
-from harness import CODE_PAGE, RESULTS, WINDOWS_BUILD, EndToEndTest, wait_until
+from harness import CAPTION, CODE_PAGE, RESULTS, WINDOWS_BUILD, EndToEndTest, wait_until
 from probe import WM_CLOSE
 
 FORMS_PROBE = WINDOWS_BUILD / "FORMSPROBE.EXE"
@@ -64,6 +64,17 @@ class KeyboardTest(FormsTest):
         self.desktop.key("Return")
         self.wait_event("cmdOK: b, ")
 
+    def test_text_that_is_being_typed_stays_while_another_window_is_active(self):
+        self.show("sample", TITLE)
+        self.desktop.type("ab")
+        self.desktop.key("Left")
+        self.start_teru()
+        self.bring_to_front(CAPTION)
+        self.bring_to_front(TITLE)
+        self.desktop.type("c")
+        self.desktop.key("Return")
+        self.wait_event("cmdOK: acb, ")
+
     def test_tab_and_arrows_pass_over_a_disabled_button(self):
         window = self.show("sample", TITLE)
         self.desktop.key("Tab", "Tab", "Tab", "Tab", "Right", "space")  # year, notes, menu, second, again
@@ -115,6 +126,11 @@ class LifeTest(FormsTest):
         self.probe.post(window, WM_CLOSE)
         self.wait_ended()
         self.assertEqual(self.events()[-3:], ["frmSample: QueryUnload", "frmSample: Unload", "ended"])
+
+    def test_the_message_loop_ends_when_another_program_closes_the_last_form(self):
+        # Sent, not posted: the loop gets no message by that.
+        self.probe.send(self.show("sample", TITLE), WM_CLOSE)
+        self.wait_ended()
 
     def test_a_modal_form_takes_the_input_of_the_others_and_gives_it_back(self):
         window = self.show("sample", TITLE)

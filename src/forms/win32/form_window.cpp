@@ -30,6 +30,7 @@ struct FormWindow {
   std::vector<Control*> controls;  // those of the layout, in its order
   std::vector<Timer*> timers;      // the running ones
   HWND focus = nullptr;            // where the keys go when the form is active
+  bool hadFocus = false;           // it had them when the form was active last
   SIZE smallest = {};              // of the frame
   bool shownBefore = false;
 };
@@ -130,11 +131,17 @@ void OnActivate(HWND window, bool active, bool minimized) {
   FormWindow* entry = Find(window);
   if (!active) {
     const HWND focus = ::GetFocus();
-    if (::IsChild(window, focus)) entry->focus = focus;
+    if (::IsChild(window, focus)) {
+      entry->focus = focus;
+      entry->hadFocus = true;
+    }
     return;
   }
   Form* form = entry->form;
-  if (!minimized) GiveFocus(*entry, FocusOf(*entry));
+  const HWND focus = FocusOf(*entry);
+  // Selected anew, the text that is being typed in a field would be lost with the next key.
+  if (!minimized && entry->hadFocus && focus == entry->focus) ::SetFocus(focus);
+  else if (!minimized) GiveFocus(*entry, focus);
   Raise([form] { form->Form_Activate(); });
 }
 
@@ -304,6 +311,8 @@ void Destroy(Form& form) {
   for (Timer* timer : entry->timers) ::KillTimer(entry->window, reinterpret_cast<UINT_PTR>(timer));
   ReleaseControls(entry->controls);
   ::DestroyWindow(entry->window);
+  // The message loop, which ends with the last form, may be waiting for a message.
+  if (!AnyForm()) ::PostThreadMessageA(::GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
 void Show(Form& form) {
@@ -352,6 +361,7 @@ void FocusTo(Control& control) {
   FormWindow* entry = Find(::GetParent(window));
   if (entry == nullptr) return;
   entry->focus = window;
+  entry->hadFocus = false;
   // While another window is active, the focus comes with the next activation.
   if (::GetActiveWindow() == entry->window && ::IsWindowVisible(entry->window)) GiveFocus(*entry, window);
 }
