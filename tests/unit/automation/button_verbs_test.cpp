@@ -53,6 +53,20 @@ TEST_F(ButtonClickTest, ButtonClickOfAnyOtherClassNamesTheControl) {
   ExpectCommand(window_, 7, button);
 }
 
+TEST_F(ButtonClickTest, ButtonClickOfAnyOtherClassGoesToTheWindowAlsoFromInsideAFrame) {
+  const std::int32_t frame = Child("ThunderRT6Frame", "", 3);
+  const std::int32_t button = Child("ThunderRT6CommandButton", "Start", 7, frame);
+  EXPECT_TRUE(ButtonClick("7", "Export", "1", "", "ThunderRT6CommandButton"));
+  ExpectCommand(window_, 7, button);
+  EXPECT_FALSE(Command(frame).has_value());
+}
+
+TEST_F(ButtonClickTest, ButtonClickOfTheClassButtonNamesNoControlAlsoWhenTheLineGivesTheClass) {
+  Child("Button", "Start", 7);
+  EXPECT_TRUE(ButtonClick("7", "Export", "1", "", "Button"));
+  ExpectCommand(window_, 7, 0);
+}
+
 TEST_F(ButtonClickTest, ButtonClickComparesTheClassExactlyWhenItChoosesTheForm) {
   const std::int32_t button = Child("Button", "Start", 7);
   EXPECT_TRUE(ButtonClick("7", "Export", "1", "", "BUTTON"));
@@ -75,6 +89,7 @@ TEST_F(ButtonClickTest, ButtonClickPrefersTheDirectChildWithTheId) {
 
 TEST_F(ButtonClickTest, ButtonClickFindsADeepControl) {
   const std::int32_t frame = Child("ThunderRT6Frame", "", 3);
+  Child("Button", "anderer", 6, frame);
   const std::int32_t deep = Child("Button", "innen", 7, frame);
   EXPECT_TRUE(ButtonClick("7", "Export", "1", "", ""));
   ExpectLog({Pressed(deep, "7")});
@@ -147,9 +162,9 @@ TEST_F(ButtonClickTest, ButtonClickWithAnIdBeyond32BitsEndsInTheStandardHandler)
 TEST_F(ButtonClickTest, AnyExactArgumentOtherThan1MeansPartial) {
   const std::int32_t button = Child("Button", "Start", 7);
   EXPECT_TRUE(ButtonClick("7", "xpor", "", "", ""));
-  EXPECT_TRUE(ButtonClick("7", "xpor", "x", "", ""));
+  for (const char* exact : {"x", "01", " 1", "1 ", "10"}) EXPECT_TRUE(ButtonClick("7", "xpor", exact, "", "")) << exact;
   EXPECT_FALSE(ButtonClick("7", "xpor", "1", "", ""));
-  ExpectLog({Pressed(button, "7"), Pressed(button, "7")});
+  ExpectLog(Lines(6, Pressed(button, "7")));
 }
 
 TEST_F(ButtonClickTest, TheVerbsOfButtonClick) {
@@ -241,9 +256,11 @@ TEST_F(MenuClickTest, TheWordMainwindowInSmallLettersIsATitle) {
   ExpectCommand(named, 7, 0);
 }
 
-TEST_F(MenuClickTest, TheWordMainwindowWithMoreAroundItIsATitle) {
-  EXPECT_FALSE(MenuClick("7", " %MAINWINDOW%", "1", "", ""));
-  ExpectNoMenu();
+TEST_F(MenuClickTest, TheWordMainwindowWithMoreOrLessAroundItIsATitle) {
+  for (const char* word : {" %MAINWINDOW%", "%MAINWINDOW% ", "%MAINWINDOW"}) {
+    EXPECT_FALSE(MenuClick("7", word, "1", "", "")) << word;
+    ExpectNoMenu();
+  }
 }
 
 TEST_F(MenuClickTest, WithoutATargetOfTheRunTheMenuIsMissing) {

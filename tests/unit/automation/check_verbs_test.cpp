@@ -292,6 +292,13 @@ TEST_F(SetCheckTest, ATextIsTheTextOfTheBox) {
   ExpectLog({Set("1")});
 }
 
+TEST_F(SetCheckTest, ATextThatBeginsWithADigitIsNoFrame) {
+  Marked(kCheck, 7, 0, Child(kFrame, "", 2));
+  const std::int32_t box = Child(kCheck, "2. Halbjahr", 8);
+  EXPECT_TRUE(SetCheck("1", "8", "Export", "1", "2. Halbjahr"));
+  EXPECT_EQ(At(box).check, 1);
+}
+
 TEST_F(SetCheckTest, ATextWithTheIdOfAnotherBoxIsNotFound) {
   Child(kCheck, "Steuerrecht", 7);
   EXPECT_FALSE(SetCheck("1", "8", "Export", "1", "Steuerrecht"));
@@ -378,6 +385,13 @@ TEST_F(SetCheckTest, ANumberBeyond32BitsEndsInTheStandardHandler) {
   ExpectFailure("Fehler in Funktion SetCheck:Überlauf");
   EXPECT_FALSE(SetCheck("1", "99999999999", "Export", "1", "13"));
   ExpectFailure("Fehler in Funktion SetCheck:Überlauf");
+}
+
+TEST_F(SetCheckTest, WholeTitleCountsOnlyWhenExactIs1) {
+  Marked(kCheck, 7, 1, Child(kFrame, "", 13));
+  EXPECT_FALSE(SetCheck("0", "7", "xpor", "1", "13"));
+  ExpectNoBox();
+  EXPECT_TRUE(SetCheck("0", "7", "xpor", "0", "13"));
 }
 
 TEST_F(SetCheckTest, AWindowInsideTheMainWindowIsReachedByItsCaption) {

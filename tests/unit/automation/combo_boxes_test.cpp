@@ -268,6 +268,15 @@ TEST_F(SelectTextTest, ANumberIsATextHere) {
   EXPECT_EQ(At(combo).selection, 2);
 }
 
+TEST_F(SelectTextTest, ANumberMayBeBeyond32Bits) {
+  const std::int32_t combo = Combo(7, {"x", "DE99999999999"});
+  EXPECT_FALSE(Select("99999999999"));
+  ExpectNotSelected("99999999999");
+  At(combo).entries.push_back("99999999999");
+  EXPECT_TRUE(Select("99999999999"));
+  EXPECT_EQ(At(combo).selection, 2);
+}
+
 TEST_F(SelectTextTest, AReplyOtherThanTheFoundIndexFails) {
   Answer(Combo(7, {"a", "b"}), platform::CB_SETCURSEL, 0);
   EXPECT_FALSE(Select("b"));
@@ -431,10 +440,14 @@ TEST_F(ReadComboTest, WithAFrameIdAnIdThatIsNoNumberEndsInTheStandardHandler) {
   ExpectFailure("Fehler in Funktion ReadCombo:Typen unverträglich");
 }
 
-TEST_F(ReadComboTest, ALengthOfMinus1EndsInTheStandardHandler) {
-  Answer(Combo(7, {"a"}), platform::CB_GETLBTEXTLEN, -1);
-  EXPECT_FALSE(Read());
-  ExpectFailure(std::string("Fehler in Funktion ReadCombo:") + kInvalidCall);
+TEST_F(ReadComboTest, ANegativeLengthEndsInTheStandardHandler) {
+  const std::int32_t combo = Combo(7, {"a"});
+  for (const std::int32_t length : {-1, -2}) {
+    run.LastError.clear();
+    Answer(combo, platform::CB_GETLBTEXTLEN, length);
+    EXPECT_FALSE(Read());
+    ExpectFailure(std::string("Fehler in Funktion ReadCombo:") + kInvalidCall);
+  }
 }
 
 TEST_F(ReadComboTest, ALengthThatNoBufferCanHaveEndsInTheStandardHandler) {

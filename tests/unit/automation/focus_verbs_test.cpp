@@ -64,6 +64,15 @@ TEST_F(SelectAllTest, TheFocusMovesToTheListWhileTheQueuesAreJoined) {
   EXPECT_TRUE(At(frmStatus.hWnd()).topMost);
 }
 
+TEST_F(SelectAllTest, TheQueueIsThatOfTheWindowAlsoWhenAnotherIsTheTarget) {
+  List(5, 3);
+  frame.MainWindow = AddWindow({.className = "X", .text = "Ziel", .process = At(window_).process + 1});
+  std::uint32_t process = 0;
+  const std::string thread = std::to_string(platform::GetWindowThreadProcessId(window_, process));
+  EXPECT_TRUE(SelectAll("5", "Export", "1", ""));
+  EXPECT_TRUE(InputLog()[1].starts_with("AttachThreadInput " + thread + " ")) << InputLog()[1];
+}
+
 TEST_F(SelectAllTest, TheCountsAreAskedForAfterTheKeys) {
   const std::int32_t list = List(5, 3);
   EXPECT_TRUE(SelectAll("5", "Export", "1", ""));
@@ -124,6 +133,12 @@ TEST_F(SelectAllTest, RowsThatAreLeftOutFail) {
   ExpectNotSelected();
 }
 
+TEST_F(SelectAllTest, MoreSelectedRowsThanThereAreFail) {
+  Answer(List(5, 3), platform::LVM_GETSELECTEDCOUNT, 4);
+  EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
+  ExpectNotSelected();
+}
+
 TEST_F(SelectAllTest, AnEmptyListThatTellsOfSelectedRowsIsEmpty) {
   Answer(List(5, 0), platform::LVM_GETSELECTEDCOUNT, 2);
   EXPECT_FALSE(SelectAll("5", "Export", "1", ""));
@@ -158,6 +173,12 @@ TEST_F(SelectAllTest, AWindowThatVanishesDuringTheSearchIsNoWindow) {
 TEST_F(SelectAllTest, AnIdThatIsNoNumberMeansTheId0) {
   List(0, 3);
   EXPECT_TRUE(SelectAll("x", "Export", "1", ""));
+  ExpectLog({Selected(3)});
+}
+
+TEST_F(SelectAllTest, AnIdMayBeBeyond16Bits) {
+  List(40000, 3, Child("ThunderRT6Frame", "", 40001));
+  EXPECT_TRUE(SelectAll("40000", "Export", "1", "40001"));
   ExpectLog({Selected(3)});
 }
 
@@ -199,6 +220,14 @@ TEST_F(SetFocusCtlTest, TheControlOfClassTextAndIdGetsTheFocus) {
   Child("Button", "Start", 6);
   const std::int32_t control = Child("Button", "Start", 7, Child("ThunderRT6Frame", "", 3));
   EXPECT_TRUE(SetFocusCtl("Button", "Start", "7"));
+  EXPECT_EQ(Focus(), control);
+  ExpectLog(Focused(control));
+}
+
+TEST_F(SetFocusCtlTest, ATextIsThatOfTheControl) {
+  Child("Button", "Ende", 6);
+  const std::int32_t control = Child("Button", "Start", 7);
+  EXPECT_TRUE(SetFocusCtl("Button", "Start", "0"));
   EXPECT_EQ(Focus(), control);
   ExpectLog(Focused(control));
 }

@@ -768,6 +768,13 @@ TEST_F(SetFolderPathTest, WithoutAWindowItSucceedsAllTheSame) {
   EXPECT_EQ(size_, 9u);
 }
 
+TEST_F(SetFolderPathTest, WholeTitleCountsOnlyWhenExactIsOne) {
+  EXPECT_EQ(SetFolderPath("Ordner", "1", "C:\\Export"), "True");
+  EXPECT_EQ(path_, "nicht gesendet");
+  EXPECT_EQ(SetFolderPath("Ordner", "0", "C:\\Export"), "True");
+  EXPECT_EQ(size_, 9u);
+}
+
 TEST_F(SetFolderPathTest, VerbPassesItsThreeArgumentsInOrder) {
   EXPECT_TRUE(RunLines({"SETFOLDERPATH=Ordner,0,'C:\\a,b'"}));
   EXPECT_EQ(path_.substr(0, 7), std::string("C:\\a,b\0", 7));

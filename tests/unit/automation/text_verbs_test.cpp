@@ -408,6 +408,28 @@ TEST_F(ReadTextTest, OfTwoWindowsOfTheTitleTheOneWithTheFrameCounts) {
   ExpectRead("unten");
 }
 
+TEST_F(ReadTextTest, OfTwoWindowsOfTheTitleTheOneWithTheControlsIdCounts) {
+  Child("Edit", "unten", 7);
+  const std::int32_t upper = AddWindow({.className = "X", .text = "Export"});
+  Child("Edit", "oben", 6, upper);
+  EXPECT_TRUE(ReadText("7", "Export", "1", "Edit", "", ""));
+  ExpectRead("unten");
+}
+
+TEST_F(ReadTextTest, TheFrameClassIsNotThatOfTheControl) {
+  Child("Edit", "innen", 7, Child("ThunderRT6Frame", "", 3));
+  EXPECT_FALSE(ReadText("7", "Export", "1", "", "", "Edit"));
+  ExpectNoControl();
+}
+
+TEST_F(ReadTextTest, WholeTitleCountsOnlyWhenExactIs1) {
+  Child("Edit", "außen", 7);
+  EXPECT_FALSE(ReadText("7", "xpor", "1", "", "", ""));
+  ExpectNoControl();
+  EXPECT_TRUE(ReadText("7", "xpor", "0", "", "", ""));
+  ExpectRead("außen");
+}
+
 TEST_F(ReadTextTest, WithoutAWindowItFails) {
   Child("Edit", "außen", 7);
   EXPECT_FALSE(ReadText("7", "Import", "1", "", "", ""));

@@ -353,10 +353,21 @@ TEST_F(VerbTest, MousemoveTakesRoundedNumbers) {
   EXPECT_EQ(InputLog(), Texts{"SetCursorPos 10 -3"});
 }
 
-TEST_F(VerbTest, IsosntIsFalseOnTheOtherFamily) {
-  platform::simulated::SetVersion(platform::VER_PLATFORM_WIN32_WINDOWS, 4, 10);
-  MakroExecute("IF ISOSNT");
-  EXPECT_FALSE(run.ExecEnabled);
+TEST_F(VerbTest, IsosntIsTrueOnAnyVersionOfTheFamily) {
+  for (const std::uint32_t major : {3u, 4u, 6u}) {
+    platform::simulated::SetVersion(platform::VER_PLATFORM_WIN32_NT, major, 0);
+    MakroExecute("IF ISOSNT");
+    EXPECT_TRUE(run.ExecEnabled) << major;
+  }
+}
+
+TEST_F(VerbTest, IsosntIsFalseOnEveryOtherFamily) {
+  for (const std::uint32_t family : {0u, platform::VER_PLATFORM_WIN32_WINDOWS, 3u}) {
+    run.ExecEnabled = true;
+    platform::simulated::SetVersion(family, 5, 0);
+    MakroExecute("IF ISOSNT");
+    EXPECT_FALSE(run.ExecEnabled) << family;
+  }
 }
 
 TEST_F(VerbTest, IsosntIsFalseWhenTheVersionCannotBeHad) {

@@ -47,6 +47,12 @@ TEST_F(SaveClipboardTest, ATableBecomesAFile) {
   EXPECT_EQ(Clipboard(), "Konto\tBetrag\r\nSumme\r\n\r\n4711\t1.234,56\r\n");
 }
 
+TEST_F(SaveClipboardTest, TheFileIsClosed) {
+  Clipboard() = "x";
+  EXPECT_TRUE(RunLines({kSave}));
+  EXPECT_NO_THROW(platform::DeleteFileA(kFile));
+}
+
 TEST_F(SaveClipboardTest, WithoutAFileNameItFails) {
   Clipboard() = "a";
   ExpectFailure("SAVECLIPBOARD=", kNoName);
@@ -167,6 +173,12 @@ TEST_F(SaveClipboardZVKTest, BracketsHideTheWindowOfStatements) {
   EXPECT_EQ(GetFile(kFile), "\"x\";;;\r\n");
 }
 
+TEST_F(SaveClipboardZVKTest, TheFirstBracketCounts) {
+  support::TargetWindow("TeRu [a 100 4711] [b 200 4712]");
+  EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
+  EXPECT_EQ(GetFile(kFile), "\"x\";;4711];100\r\n");
+}
+
 TEST_F(SaveClipboardZVKTest, TwoBlanksInBracketsEncloseAnEmptyWord) {
   support::TargetWindow("[a  c");
   EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
@@ -212,11 +224,16 @@ TEST_F(SaveClipboardZVKTest, StatementsWithFewerWordsAskTheUser) {
 }
 
 TEST_F(SaveClipboardZVKTest, OneEmptyValueAsksForBoth) {
-  AddWindow({.className = "X", .text = "Umsätze BLZ:  Kto: 4711"});  // an empty bank code
   support::TargetWindow("TeRu ZVK");
-  UserTypes("1", "2");
-  EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
-  EXPECT_EQ(GetFile(kFile), "\"x\";;1;2\r\n");
+  const std::int32_t statements = AddWindow({.className = "X"});
+  // An empty bank code, an empty account.
+  for (const char* caption : {"Umsätze BLZ:  Kto: 4711", "Umsätze BLZ: 10020030 Kto: "}) {
+    At(statements).text = caption;
+    UserTypes("1", "2");
+    EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
+    EXPECT_EQ(GetFile(kFile), "\"x\";;1;2\r\n") << caption;
+    platform::DeleteFileA(kFile);
+  }
 }
 
 TEST_F(SaveClipboardZVKTest, WithoutAWindowOfStatementsTheUserIsAskedOnTop) {
@@ -232,6 +249,25 @@ TEST_F(SaveClipboardZVKTest, WithoutAWindowOfStatementsTheUserIsAskedOnTop) {
   EXPECT_TRUE(topMost);
   EXPECT_EQ(GetFile(kFile), "\"x\";;4711;10020030\r\n");
   EXPECT_EQ(Log(), SavedBehind({"Window CaptionTeRu ZVK", "Konto / Blz Dialog"}, "0"));
+}
+
+TEST_F(SaveClipboardZVKTest, EventsRunWhileTheQuestionIsOnTopAndNotYetShown) {
+  const std::int32_t question = frmInputBoxKonto.hWnd();
+  support::TargetWindow("TeRu ZVK");
+  std::optional<bool> shown, topMost;
+  Schedule(25, [&] {  // in the last pause of the search, that of the third title
+    At(question).procedure = [&](const Message& message) -> std::optional<std::int32_t> {
+      if (message.wParam != 77) return std::nullopt;
+      shown = frmInputBoxKonto.Visible();
+      topMost = At(question).topMost;
+      return 0;
+    };
+    platform::PostMessageA(question, platform::WM_COMMAND, 77, 0);
+  });
+  UserTypes("1", "2");
+  EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
+  EXPECT_EQ(shown, false);
+  EXPECT_EQ(topMost, true);
 }
 
 TEST_F(SaveClipboardZVKTest, AfterACancelTheAnswerBeforeItCounts) {
@@ -321,6 +357,12 @@ TEST_F(SaveClipboardZVKFiles, BareLineFeedsAloneAreLineEnds) {
   EXPECT_EQ(GetFile(kFile), record_ + "\"y\";;4711;100\r\n");
 }
 
+TEST_F(SaveClipboardZVKFiles, BareLineFeedsAreLineEndsAlsoBesideABareCarriageReturn) {
+  Clipboard() = "Kopf\rx\ny\n";
+  EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
+  EXPECT_EQ(GetFile(kFile), record_ + "\"y\";;4711;100\r\n");
+}
+
 TEST_F(SaveClipboardZVKFiles, MixedLineEndsKeepTheirBareLineFeeds) {
   Clipboard() = "Kopf\r\nx\ny\r\n";
   EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
@@ -332,6 +374,13 @@ TEST_F(SaveClipboardZVKFiles, TheTailOfAnOldTemporaryFileIsTakenForTable) {
   EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));  // the text has 9 bytes
   EXPECT_EQ(GetFile(kFile), record_ + "\"0123\";;4711;100\r\n");
   EXPECT_FALSE(Exists(kTemporary));
+}
+
+TEST_F(SaveClipboardZVKFiles, TheFileIsClosedInBothModes) {
+  for (const char* mode : {",0", ",1"}) {
+    EXPECT_TRUE(RunLines({kSaveZVK + mode}));
+    EXPECT_NO_THROW(platform::DeleteFileA(kFile)) << mode;
+  }
 }
 
 TEST_F(SaveClipboardZVKFiles, AMissingFolderIsAFault) {

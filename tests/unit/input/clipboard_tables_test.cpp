@@ -87,6 +87,7 @@ TEST(TextFields, TheRemainderIsAFieldEvenWhenItIsEmpty) {
 }
 
 TEST(TextFields, PiecesAreCutAtEvery27Characters) {
+  EXPECT_EQ(TextFields("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), "\"ABCDEFGHIJKLMNOPQRSTUVWXYZ\";" + Repeat(";", 11));
   EXPECT_EQ(TextFields("ABCDEFGHIJKLMNOPQRSTUVWXYZ12"), "\"ABCDEFGHIJKLMNOPQRSTUVWXYZ1\";\"2\";" + Repeat(";", 10));
 }
 
