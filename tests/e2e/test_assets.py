@@ -137,6 +137,9 @@ class AssetQuestionTest(AssetTest):
         self.open_dialog()
         self.press(ASSET_CAPTION)
         window = self.dialog("Mandant 4711, Jahr 2005?", "GWG in Auswertungen:")
+        windows = self.probe.windows(visible=False, process=window.process)
+        dropped = [other for other in windows if other.class_name == "ComboLBox"]
+        self.assertEqual([other.enabled for other in dropped], [True])  # else its entries would be grey
         treatment = self.probe.control(window, class_name="ComboBox")
         cb_getcursel = 327
         wait_until(lambda: self.probe.send(treatment, cb_getcursel) == 1, "the proposed treatment")

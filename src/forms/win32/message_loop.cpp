@@ -48,6 +48,8 @@ ModalSession::ModalSession(HWND window) : window_(window), previous_(::GetForegr
   ::EnumThreadWindows(::GetCurrentThreadId(), Collect, reinterpret_cast<LPARAM>(&windows));
   for (const HWND other : windows) {
     if (other == window || !::IsWindowEnabled(other)) continue;
+    // What is hidden and no form is a part of one, such as the list that drops down from a combo box.
+    if (!IsForm(platform::NumberOf(other)) && !::IsWindowVisible(other)) continue;
     ::EnableWindow(other, FALSE);
     disabled_.push_back(other);
   }
