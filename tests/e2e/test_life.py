@@ -253,6 +253,34 @@ class StatusDialogTest(LogTest):
         )
 
 
+class OrderTest(LogTest):
+    """What waits for the user must not be covered by the status dialog of a run that has ended."""
+
+    def end_a_run(self):
+        self.start_program()
+        self.lay_macro("MSG=1\n")
+        self.start_teru()
+        self.press()
+        self.wait_run_ended()
+        return self.status_dialog()
+
+    def assert_above(self, window, status):
+        shown = [other.handle for other in self.probe.windows()]
+        self.assertLess(shown.index(window.handle), shown.index(status.handle))
+
+    def test_a_message_is_above_the_status_dialog(self):
+        status = self.end_a_run()
+        (self.folder / "PROBE.MAK").unlink()
+        self.press()
+        box = self.dialog("Die Steuerungsdatei kann nicht geladen werden. Das Programm wird beendet.")
+        self.assert_above(box, status)
+
+    def test_a_dialog_of_the_menu_is_above_the_status_dialog(self):
+        status = self.end_a_run()
+        self.choose_from_menu("Info")
+        self.assert_above(self.dialog("&Systeminfo...", title="Info"), status)
+
+
 class MenuTest(LogTest):
     def test_menu_shows_the_log(self):
         self.start_program()

@@ -239,8 +239,8 @@ void RegisterFormClass() {
   (void)atom;
 }
 
-// The system's form of a dialog without controls, up to the class.
-struct EmptyDialog {
+// The system's form of a dialog without controls, up to the class. It must lie on a double-word boundary.
+struct alignas(DWORD) EmptyDialog {
   DLGTEMPLATE head;
   WORD menu;
   wchar_t className[std::size(kFormClass)];
@@ -253,7 +253,8 @@ HWND MakeWindow(const Form& form, bool neverShown) {
   std::copy(std::begin(kFormClass), std::end(kFormClass), dialog.className);
   dialog.head.style = WS_POPUP;
   if (neverShown) {
-    dialog.head.dwExtendedStyle = WS_EX_TOOLWINDOW;
+    // Top-most for the sake of the boxes that it owns: a form that is top-most must not cover them.
+    dialog.head.dwExtendedStyle = WS_EX_TOOLWINDOW | WS_EX_TOPMOST;
   } else {
     dialog.head.style |= WS_CAPTION | WS_SYSMENU;
     dialog.head.style |= form.style.resizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : static_cast<DWORD>(DS_MODALFRAME);

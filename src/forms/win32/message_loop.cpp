@@ -48,10 +48,14 @@ ModalSession::ModalSession(HWND window) : window_(window), previous_(::GetForegr
   ::EnumThreadWindows(::GetCurrentThreadId(), Collect, reinterpret_cast<LPARAM>(&windows));
   for (const HWND other : windows) {
     if (other == window || !::IsWindowEnabled(other)) continue;
+    const bool visible = ::IsWindowVisible(other) != FALSE;
     // What is hidden and no form is a part of one, such as the list that drops down from a combo box.
-    if (!IsForm(platform::NumberOf(other)) && !::IsWindowVisible(other)) continue;
+    if (!visible && !IsForm(platform::NumberOf(other))) continue;
     ::EnableWindow(other, FALSE);
     disabled_.push_back(other);
+    // What takes no input cannot be moved out of the way.
+    if (visible && (::GetWindowLongA(other, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0)
+      ::SetWindowPos(window, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
   sessions.push_back(this);
 }
