@@ -54,7 +54,10 @@ std::uint32_t StartProgram(const std::string& command, std::uint32_t showStyle) 
   start.wShowWindow = static_cast<WORD>(showStyle);
   PROCESS_INFORMATION process = {};
   std::string line = command;  // the system writes into it
-  if (!::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process)) return 0;
+  // How the system reports errors is this program's own choice (files.cpp).
+  if (!::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE, nullptr, nullptr,
+                        &start, &process))
+    return 0;
   ::CloseHandle(process.hThread);
   ::CloseHandle(process.hProcess);
   return process.dwProcessId;
