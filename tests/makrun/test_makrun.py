@@ -100,6 +100,12 @@ class MakrunTest(unittest.TestCase):
         self.assertEqual(self.makrun("--drive", blocked, macro, status=66), [])
         self.assertIn("blocked/QUMA", self.errors)
 
+    def test_an_output_that_cannot_be_written_ends_with_66(self):
+        with open("/dev/full", "wb") as full:
+            done = subprocess.run([str(MAKRUN), self.macro("MSG=a")], stdout=full, stderr=subprocess.PIPE, timeout=60)
+        self.assertEqual(done.returncode, 66)
+        self.assertIn("standard output cannot be written", done.stderr.decode())
+
     def test_a_macro_whose_name_the_program_cannot_open_ends_with_66_and_is_named(self):
         self.assertEqual(self.makrun(self.macro("MSG=a", name="Ж.mak"), status=66), [])
         self.assertIn("?.mak cannot be made", self.errors)

@@ -31,8 +31,8 @@ int Run(const makrun::Options& options) {
   const makrun::Rehearsal rehearsal = makrun::Rehearse(options);
   std::string output;
   for (const std::string& line : rehearsal.log) output += platform::simulated::ToUtf8(line) + "\n";
-  std::fwrite(output.data(), 1, output.size(), stdout);
-  std::fflush(stdout);
+  const bool written = std::fwrite(output.data(), 1, output.size(), stdout) == output.size();
+  if (!written || std::fflush(stdout) != 0) throw makrun::FileError{"standard output cannot be written"};
   for (const std::string& note : rehearsal.notes) Complain(platform::simulated::ToUtf8(note));
   // A failed run is told in the program's own words alone.
   const std::string reason = platform::simulated::ToUtf8(rehearsal.reason);

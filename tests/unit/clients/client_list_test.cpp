@@ -87,6 +87,14 @@ TEST_F(ClientListTest, WindowIsFoundByAPartOfItsTitle) {
   EXPECT_EQ(GetMandantName(), "Althoff, Anna");
 }
 
+TEST_F(ClientListTest, AnotherListOfTheDialogIsNotTaken) {
+  DestroyWindow(list_);
+  const std::int32_t other = AddWindow({.className = "SysListView32", .parent = form_, .id = 5070});
+  At(other).rows.push_back({kClients[0]});
+  automation.ListIndex = 1;
+  EXPECT_EQ(GetMandantName(), "<unbekannt>");
+}
+
 TEST_F(ClientListTest, EmptyCellsAreUnknownAndAnEmptyListIsEmpty) {
   automation.ListIndex = 1;
   At(list_).rows[0].columns[1] = "";
@@ -149,6 +157,8 @@ TEST_F(ClientListTest, TheRangeIsComparedAsNumbers) {
   Range("100,5", "9999999999");
   EXPECT_FALSE(InRange("100"));
   EXPECT_TRUE(InRange("2147483647"));
+  Range("100", "199,5");
+  EXPECT_FALSE(InRange("200"));
 }
 
 TEST_F(ClientListTest, ARangeThatEndsBeforeItBeginsHoldsNobody) {
@@ -230,6 +240,16 @@ TEST_F(ClientListTest, TheMarkedClientAloneIsTakenAndTheListEndsBehindIt) {
   EXPECT_EQ(automation.ListIndex, 3);
   EXPECT_EQ(automation.ListCount, 3);
   EXPECT_EQ(GetMandantNummer(), "200");
+}
+
+TEST_F(ClientListTest, TheListIsFoundByAPartOfTheTitleAndByItsText) {
+  clients.InputState = 1;
+  At(list_).text = "Liste";
+  At(list_).process = kOwnProcess;  // the system tells the text of a control to its own process only
+  EXPECT_TRUE(VerifyList("5071", "öffnen", "", "anders"));
+  EXPECT_EQ(automation.ListIndex, 0);
+  EXPECT_TRUE(VerifyList("5071", "öffnen", "", "Liste"));
+  EXPECT_EQ(automation.ListIndex, 1);
 }
 
 TEST_F(ClientListTest, AListWithoutRowsIsNotLookedAt) {
