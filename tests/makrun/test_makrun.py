@@ -151,6 +151,14 @@ class MakrunTest(unittest.TestCase):
         self.makrun("--drive", drive, macro)
         self.assertEqual(self.makrun("--drive", drive, macro), ["MSG: a", *COMPLETED])
 
+    def test_a_kept_drive_does_not_keep_the_settings_of_an_earlier_rehearsal(self):
+        drive = self.folder / "drive"
+        drive.mkdir()
+        other = self.file("other.ini", "[MERLA]\r\nVersion=2100\r\n")
+        macro = self.macro("DIM V", "V=READINI(MERLA,Version)", "MSG=V")
+        self.assertIn("MSG: 2100", self.makrun("--drive", drive, "--ini", other, macro))
+        self.assertNotIn("MSG: 2100", self.makrun("--drive", drive, macro))
+
     def test_the_macros_folder_stays_as_it_is(self):
         macro = self.macro("MSG=a")
         before = sorted(self.folder.iterdir())

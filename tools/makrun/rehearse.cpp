@@ -34,6 +34,8 @@ using rehearsal::kProgram;
 // How long a wait may take to notice that the user has cancelled, in simulated seconds.
 constexpr std::int32_t kGrace = 60;
 
+const std::string kSettings = kProgram + "\\QUMAEXP.INI";
+
 struct LineLimitPassed {};
 
 std::string MacroName(const Options& options) { return ProgramText(fs::path(options.macro).filename().string()); }
@@ -58,6 +60,7 @@ void FillProgramFolder(const Options& options) {
   const std::string text = ReadHostFile(options.macro);
   std::error_code error;
   if (!fs::equivalent(beside, program, error)) {
+    fs::remove(simulated::HostPath(kSettings), error);  // those of an earlier rehearsal on a kept drive
     for (const auto& entry : fs::directory_iterator(beside, error)) {
       if (!entry.is_regular_file() || entry.path().filename() == "QUMAEXP.LOG") continue;
       fs::copy_file(entry.path(), program / entry.path().filename(), fs::copy_options::overwrite_existing, error);
@@ -66,7 +69,7 @@ void FillProgramFolder(const Options& options) {
     // Also one that the folder does not list as a file. A name that the program cannot open is told here.
     PutSimulatedFile(kProgram + "\\" + MacroName(options), text);
   }
-  if (!options.ini.empty()) simulated::PutFile(kProgram + "\\QUMAEXP.INI", ReadHostFile(options.ini));
+  if (!options.ini.empty()) simulated::PutFile(kSettings, ReadHostFile(options.ini));
 }
 
 void PrepareDesktop(const Options& options) {

@@ -327,6 +327,12 @@ TEST_F(MerlaMatrixTest, MacroLineHandsItsArgumentsOverInOrder) {
   EXPECT_EQ(Rows(), kRows);
 }
 
+TEST_F(MerlaMatrixTest, TheDialogIsFoundByAPartOfItsTitle) {
+  OpenDialog(kOlder);
+  EXPECT_TRUE(CreateMerlaMatrix("9", "jahr wechseln", "", kComboClass, ""));
+  EXPECT_EQ(Rows(), kRows);
+}
+
 TEST_F(MerlaMatrixTest, AComboBoxWithAnotherTextIsNotRead) {
   Setting("MERLA", "Version", "260");
   OpenDialog(kUsual);
