@@ -446,6 +446,18 @@ TEST_F(MerlaMatrixTest, AMatrixThatIsReplacedInTheMiddleDoesNoHarm) {
   EXPECT_EQ(Log().back(), kBuilt);
 }
 
+TEST_F(MerlaMatrixTest, ARowThatANestedRunHasCheckedIsFilledUnchecked) {
+  OpenDialog(kOlder, {kYears[0]});
+  At(combo_).procedure = [](const Message& message) -> std::optional<std::int32_t> {
+    if (message.number != platform::CB_SETCURSEL) return std::nullopt;
+    clients.MerMatrix.assign(1, {});
+    clients.MerMatrix[0].Checked = true;
+    return std::nullopt;
+  };
+  EXPECT_TRUE(Create());
+  EXPECT_EQ(Rows(), Lines{kRows[0]});
+}
+
 // The dates.
 
 class MerlaDatesTest : public MerlaMatrixTest {
