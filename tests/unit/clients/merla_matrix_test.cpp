@@ -570,6 +570,18 @@ TEST_F(MerlaDatesTest, TheFrameIsFoundByWholeTitleTextAndId) {
   ExpectDates("", "");
 }
 
+TEST_F(MerlaDatesTest, ThePathOfVersion2100NamesWindowTextClassAndId) {
+  Setting("MERLA", "Version", "2100");
+  Setting("MERLA", "MatrixJahrVonBis", "Jahr wählen;Zeitraum;ThunderRT6PictureBoxDC;61");
+  At(form_).text = "Jahr wählen";
+  At(frame_).className = "ThunderRT6PictureBoxDC";
+  At(frame_).text = "Zeitraum";
+  At(frame_).id = 61;
+  SetDate(first_, "01.01.2005");
+  SetDate(last_, "31.12.2005");
+  ExpectDates("01.01.2005", "31.12.2005");
+}
+
 // The variables.
 
 class MerMatrixVariables : public SystemTest {
