@@ -387,13 +387,6 @@ TEST_F(SetCheckTest, ANumberBeyond32BitsEndsInTheStandardHandler) {
   ExpectFailure("Fehler in Funktion SetCheck:Überlauf");
 }
 
-TEST_F(SetCheckTest, WholeTitleCountsOnlyWhenExactIs1) {
-  Marked(kCheck, 7, 1, Child(kFrame, "", 13));
-  EXPECT_FALSE(SetCheck("0", "7", "xpor", "1", "13"));
-  ExpectNoBox();
-  EXPECT_TRUE(SetCheck("0", "7", "xpor", "0", "13"));
-}
-
 TEST_F(SetCheckTest, AWindowInsideTheMainWindowIsReachedByItsCaption) {
   const std::int32_t inner = Child("ThunderRT6FormDC", "Auswahl", 100);
   const std::int32_t box = Marked(kCheck, 7, 0, Child(kFrame, "", 13, inner));

@@ -224,14 +224,6 @@ TEST_F(SetFocusCtlTest, TheControlOfClassTextAndIdGetsTheFocus) {
   ExpectLog(Focused(control));
 }
 
-TEST_F(SetFocusCtlTest, ATextIsThatOfTheControl) {
-  Child("Button", "Ende", 6);
-  const std::int32_t control = Child("Button", "Start", 7);
-  EXPECT_TRUE(SetFocusCtl("Button", "Start", "0"));
-  EXPECT_EQ(Focus(), control);
-  ExpectLog(Focused(control));
-}
-
 TEST_F(SetFocusCtlTest, TheQueuesAreJoinedWithTheMainFormsForItAndNoWindowIsBroughtToTheFront) {
   const std::int32_t control = Child("Button", "Start", 7);
   std::uint32_t process = 0;

@@ -422,14 +422,6 @@ TEST_F(ReadTextTest, TheFrameClassIsNotThatOfTheControl) {
   ExpectNoControl();
 }
 
-TEST_F(ReadTextTest, WholeTitleCountsOnlyWhenExactIs1) {
-  Child("Edit", "außen", 7);
-  EXPECT_FALSE(ReadText("7", "xpor", "1", "", "", ""));
-  ExpectNoControl();
-  EXPECT_TRUE(ReadText("7", "xpor", "0", "", "", ""));
-  ExpectRead("außen");
-}
-
 TEST_F(ReadTextTest, WithoutAWindowItFails) {
   Child("Edit", "außen", 7);
   EXPECT_FALSE(ReadText("7", "Import", "1", "", "", ""));

@@ -150,6 +150,13 @@ TEST_F(SaveClipboardZVKTest, TheCaptionNamesBankCodeAndAccountInBrackets) {
   EXPECT_FALSE(Exists(kTemporary));
 }
 
+TEST_F(SaveClipboardZVKTest, TheCaptionIsThatOfTheTargetAlsoWhenAnotherWindowIsInFront) {
+  support::TargetWindow("TeRu [a 100 4711");
+  Activate(AddWindow({.className = "X", .text = "Andere [a 200 4712"}));
+  EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
+  EXPECT_EQ(GetFile(kFile), "\"x\";;4711;100\r\n");
+}
+
 TEST_F(SaveClipboardZVKTest, BracketsWithThreeWordsAreEnough) {
   support::TargetWindow("[a b c");
   EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
@@ -408,6 +415,8 @@ TEST_F(SaveClipboardZVKFiles, ATargetThatCannotBeWrittenLosesTheTemporaryFileAll
     EXPECT_FALSE(RunLines({kSaveZVK + mode}));
     EXPECT_TRUE(run.LastError.starts_with("Fehler in Funktion SaveClipboardZVK:")) << mode;
     EXPECT_FALSE(Exists(kTemporary)) << mode;
+    const Lines log = Log();
+    EXPECT_EQ(*std::prev(log.end(), 2), "AppendMode: " + std::string(mode + 1)) << mode;
   }
 }
 
