@@ -115,8 +115,10 @@ std::size_t SizeAskedFor(std::int32_t address) {
 
 using namespace simulated;
 
-std::int32_t OpenProcess(std::uint32_t dwDesiredAccess, bool /*bInheritHandle*/, std::uint32_t dwProcessId) {
-  if (!Lives(dwProcessId) || Fails("OpenProcess")) return 0;
+// The other process gives the rights to its memory, and to this program alone; nobody needs to ask for more.
+std::int32_t OpenProcess(std::uint32_t dwDesiredAccess, bool bInheritHandle, std::uint32_t dwProcessId) {
+  constexpr std::uint32_t kGiven = PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE;
+  if (!Lives(dwProcessId) || (dwDesiredAccess & ~kGiven) != 0 || bInheritHandle || Fails("OpenProcess")) return 0;
   return AddHandle({.process = dwProcessId, .access = dwDesiredAccess});
 }
 

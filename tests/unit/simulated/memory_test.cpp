@@ -50,6 +50,13 @@ TEST_F(SimulatedMemory, BlockBelongsToOneProcess) {
   EXPECT_EQ(SizeAskedFor(block + 1), 0u);
 }
 
+TEST_F(SimulatedMemory, ProcessGivesTheRightsToItsMemoryAndNoOthers) {
+  constexpr std::uint32_t kAll = 0x1F0FFF;
+  EXPECT_EQ(OpenProcess(kAll, false, 50), 0);
+  EXPECT_EQ(OpenProcess(PROCESS_VM_READ, true, 50), 0);
+  EXPECT_NE(OpenProcess(PROCESS_VM_READ, false, 50), 0);
+}
+
 TEST_F(SimulatedMemory, ViewIsTheProgramsOwnOnTheNtFamily) {
   const std::int32_t view = View(10);
   RtlMoveMemory(view, "x", 1);
