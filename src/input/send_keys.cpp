@@ -18,11 +18,11 @@ using key_notation::Step;
 constexpr int kNeedsShift = 256;
 constexpr int kNeedsMore = 512 + 1024;
 
-// The keys of the pad between letters and numbers, and those that came with it.
+// The keys of the pad between letters and numbers, and those that came with it, as Ctrl and Alt on the right.
 bool IsExtended(std::uint8_t key) {
   return (key >= platform::VK_PRIOR && key <= platform::VK_DOWN) || key == platform::VK_INSERT ||
          key == platform::VK_DELETE || key == platform::VK_SNAPSHOT || key == platform::VK_NUMLOCK ||
-         key == platform::VK_CANCEL;
+         key == platform::VK_CANCEL || key == platform::VK_RCONTROL || key == platform::VK_RMENU;
 }
 
 void Press(std::uint8_t key) {

@@ -53,7 +53,7 @@ constexpr std::uint8_t VK_HELP = 47;
 constexpr std::uint8_t VK_F1 = 112;
 constexpr std::uint8_t VK_NUMLOCK = 144;
 constexpr std::uint8_t VK_SCROLL = 145;
-// The right ones of the keys that stand on both sides.
+// The right ones of the keys that stand on both sides. Ctrl and Alt of them are the left ones unless they are extended.
 constexpr std::uint8_t VK_RSHIFT = 161;
 constexpr std::uint8_t VK_RCONTROL = 163;
 constexpr std::uint8_t VK_RMENU = 165;

@@ -147,6 +147,16 @@ TEST_F(Keys, HeldOnesAreSeen) {
   EXPECT_GE(platform::GetAsyncKeyState(platform::VK_CONTROL), 0);
 }
 
+TEST_F(Keys, RightOnesAreExtended) {
+  for (const std::uint8_t key : {platform::VK_RCONTROL, platform::VK_RMENU}) {
+    platform::keybd_event(key, 0, platform::KEYEVENTF_EXTENDEDKEY, 0);
+    platform::keybd_event(key, 0, platform::KEYEVENTF_KEYUP, 0);
+    EXPECT_LT(platform::GetAsyncKeyState(key), 0) << "the left one has been let go";
+    platform::keybd_event(key, 0, platform::KEYEVENTF_EXTENDEDKEY | platform::KEYEVENTF_KEYUP, 0);
+    EXPECT_GE(platform::GetAsyncKeyState(key), 0);
+  }
+}
+
 TEST_F(Keys, NoFocusForADeadWindow) {
   contract::DestroyForeignWindow(field_);
   ASSERT_TRUE(Join());

@@ -107,7 +107,9 @@ void keybd_event(std::uint8_t bVk, std::uint8_t bScan, std::uint32_t dwFlags, st
   Desktop& desktop = TheDesktop();
   const bool system = Down(VK_MENU) && !Down(VK_CONTROL);
   if ((dwFlags & KEYEVENTF_KEYUP) != 0) {
-    desktop.keysDown.erase(bVk);
+    // What is not extended is the left one of the two.
+    const bool left = (bVk == VK_RCONTROL || bVk == VK_RMENU) && (dwFlags & KEYEVENTF_EXTENDEDKEY) == 0;
+    if (!left) desktop.keysDown.erase(bVk);
     Queue(system ? WM_SYSKEYUP : WM_KEYUP, bVk);
     return;
   }

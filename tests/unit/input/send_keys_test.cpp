@@ -109,6 +109,13 @@ TEST_F(SendKeysTest, KeysTheUserHoldsAreLetGoFirstAndAltOpensNoMenu) {
   EXPECT_GE(platform::GetAsyncKeyState(platform::VK_MENU), 0);
 }
 
+TEST_F(SendKeysTest, KeysTheUserHoldsOnTheRightAreLetGo) {
+  for (const std::uint8_t key : {platform::VK_RSHIFT, platform::VK_RCONTROL, platform::VK_RMENU}) HoldKey(key);
+  SendKeys("a");
+  for (const std::uint8_t key : {platform::VK_RSHIFT, platform::VK_RCONTROL, platform::VK_RMENU})
+    EXPECT_GE(platform::GetAsyncKeyState(key), 0) << int{key};
+}
+
 TEST_F(SendKeysTest, CapsLockIsOffMeanwhileAndOnAgain) {
   SwitchOn(platform::VK_CAPITAL);
   SendKeys("aBc");
