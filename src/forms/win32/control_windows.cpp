@@ -67,8 +67,10 @@ WindowKind WindowKindOf(const Control& control) {
     case ControlKind::TextBox:
       return {"Edit", WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE};
     case ControlKind::RichTextBox:
+      // Without the focus it scrolls to its caret only where the selection shows then too.
       return {RichTextClass(),
-              WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_AUTOHSCROLL,
+              WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_AUTOHSCROLL |
+                  ES_NOHIDESEL,
               WS_EX_CLIENTEDGE};
     case ControlKind::Button: {
       const bool isDefault = static_cast<const Button&>(control).role == ButtonRole::Default;

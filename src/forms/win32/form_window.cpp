@@ -49,6 +49,11 @@ FormWindow* Find(const Form& form) { return Find(platform::HandleOf<HWND>(form.W
 // A form without controls is never seen; it is there for its window's messages.
 bool IsNeverShown(const FormWindow& entry) { return entry.controls.empty(); }
 
+// A timer's place in its form: the 9x family keeps 16 bits of the number, too few for an address.
+UINT_PTR IdOf(const Form& form, const Timer& timer) {
+  return reinterpret_cast<UINT_PTR>(&timer) - reinterpret_cast<UINT_PTR>(&form);
+}
+
 // Measures.
 
 constexpr int kGapUnits = 6;
@@ -163,8 +168,9 @@ void OnNotify(HWND window, NMHDR* record) {
 }
 
 void OnTimer(HWND window, WPARAM id) {
-  for (Timer* timer : Find(window)->timers) {
-    if (reinterpret_cast<WPARAM>(timer) != id) continue;
+  const FormWindow& entry = *Find(window);
+  for (Timer* timer : entry.timers) {
+    if (IdOf(*entry.form, *timer) != id) continue;
     Raise(timer->Tick);
     return;
   }
@@ -309,7 +315,7 @@ void Destroy(Form& form) {
   const std::unique_ptr<FormWindow> entry = std::move(*found);
   formWindows.erase(found);
   EndModal(platform::NumberOf(entry->window));
-  for (Timer* timer : entry->timers) ::KillTimer(entry->window, reinterpret_cast<UINT_PTR>(timer));
+  for (Timer* timer : entry->timers) ::KillTimer(entry->window, IdOf(form, *timer));
   ReleaseControls(entry->controls);
   ::DestroyWindow(entry->window);
   // The message loop, which ends with the last form, may be waiting for a message.
@@ -370,7 +376,7 @@ void FocusTo(Control& control) {
 void IntervalChanged(Form& form, Timer& timer) {
   FormWindow* entry = Find(form);
   if (entry == nullptr) return;
-  const auto id = reinterpret_cast<UINT_PTR>(&timer);
+  const UINT_PTR id = IdOf(form, timer);
   std::erase(entry->timers, &timer);
   ::KillTimer(entry->window, id);
   if (timer.Interval() <= 0) return;
