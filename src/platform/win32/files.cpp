@@ -13,9 +13,6 @@ namespace {
 // A drive without a disk is a fault like any other; by itself the system would ask the user for one and hold the run.
 [[maybe_unused]] const UINT formerErrorMode = ::SetErrorMode(SEM_FAILCRITICALERRORS);
 
-// The highest bit tells.
-bool IsFamily9x() { return (::GetVersion() & 0x80000000) != 0; }
-
 }  // namespace
 
 bool FileExists(const std::string& path) {

@@ -31,9 +31,9 @@ std::int32_t ReadEntryA(std::int32_t hWnd, std::int32_t index, std::size_t lengt
 std::int32_t ReadEntry(std::int32_t hWnd, std::int32_t index, TextBuffer& target) {
   const std::int32_t length = SendMessageA(hWnd, CB_GETLBTEXTLEN, index, 0);
   if (length < 0) return length;
-  const bool isNT = (::GetVersion() & 0x80000000u) == 0;
   std::string entry;
-  const std::int32_t answer = (isNT ? ReadEntryW : ReadEntryA)(hWnd, index, static_cast<std::size_t>(length), entry);
+  const auto read = IsFamily9x() ? ReadEntryA : ReadEntryW;
+  const std::int32_t answer = read(hWnd, index, static_cast<std::size_t>(length), entry);
   if (answer < 0) return answer;
   const std::size_t count = std::min({static_cast<std::size_t>(answer), entry.size(), target.bytes.size()});
   std::copy_n(entry.begin(), count, target.bytes.begin());

@@ -26,4 +26,7 @@ std::int32_t NumberOf(Handle handle) {
   return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(handle));
 }
 
+// The highest bit tells.
+inline bool IsFamily9x() { return (::GetVersion() & 0x80000000) != 0; }
+
 }  // namespace platform
