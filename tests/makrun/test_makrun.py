@@ -57,6 +57,7 @@ class MakrunTest(unittest.TestCase):
             ([], "no macro is named"),
             ([macro, macro], "one macro at a time"),
             (["--unknown", macro], "there is no option --unknown"),
+            (["--desk"], "there is no option --desk"),
             ([macro, "--desktop"], "--desktop wants a value"),
             ([""], "no macro is named"),
             (["--desktop", "", macro], "--desktop wants a value"),
@@ -64,19 +65,27 @@ class MakrunTest(unittest.TestCase):
             (["--drive", "", macro], "--drive wants a value"),
             (["--clipboard", "", macro], "--clipboard wants a value"),
             (["--resume", "x", macro], "--resume wants a number"),
+            (["--resume", "1x", macro], "--resume wants a number"),
             (["--resume", "-1", macro], "--resume wants a number"),
             (["--time-limit", "2000001", macro], "--time-limit wants a number from 0 to 2000000"),
             (["--line-limit", "", macro], "--line-limit wants a number"),
             (["--now", "2006-02-30 00:00:00", macro], "--now wants a time"),
             (["--now", "2006-02-28", macro], "--now wants a time"),
             (["--now", "2006-02-28 24:00:00", macro], "--now wants a time"),
+            (["--now", "2006-02-28 23:60:00", macro], "--now wants a time"),
+            (["--now", "2006-02-28 23:00:60", macro], "--now wants a time"),
+            (["--now", "2006-02-28 -1:00:00", macro], "--now wants a time"),
+            (["--now", "2006-02-28 23:00:00 x", macro], "--now wants a time"),
+            (["--now", "0099-02-28 23:00:00", macro], "--now wants a time"),
             (["--family", "xp", macro], "--family wants nt or 9x"),
             (["--answer", "frmInputbox", macro], "--answer wants FORM.CONTROL"),
             (["--answer", ".cmdOK", macro], "--answer wants FORM.CONTROL"),
+            (["--answer", "frmInputbox.=x", macro], "--answer wants FORM.CONTROL"),
         ]:
             with self.subTest(reason):
                 self.assertEqual(self.makrun(*arguments, status=64), [])
                 self.assertIn(reason, self.errors)
+                self.assertIn("usage: makrun", self.errors)
 
     def test_a_file_that_cannot_be_read_ends_with_66_and_is_named(self):
         macro = self.macro("MSG=a")
@@ -114,13 +123,18 @@ class MakrunTest(unittest.TestCase):
         done = subprocess.run([str(MAKRUN), "/dev/stdin"], input=b"MSG=a\r\n", capture_output=True, timeout=60)
         self.assertEqual(done.stdout.decode().splitlines(), ["MSG: a", *COMPLETED])
 
+    def test_a_drive_that_is_a_file_ends_with_66(self):
+        macro = self.macro("MSG=a")
+        self.assertEqual(self.makrun("--drive", macro, macro, status=66), [])
+        self.assertEqual(self.errors, f"makrun: {macro} is no folder\n")
+
     def test_help_tells_the_options(self):
         self.assertIn("--desktop FILE", "\n".join(self.makrun("--help")))
 
     # --- options
 
     def test_without_a_desktop_there_is_one_main_window(self):
-        macro = self.macro("IF ACTIVEWINDOW=4711", "MSG=ja", "ENDIF")
+        macro = self.macro("IF ACTIVEWINDOW=TeRu - 0012 / 4711 / 2005 / Probelauf", "MSG=ja", "ENDIF")
         self.assertEqual(self.makrun(macro), ["MSG: ja", *COMPLETED])
 
     def test_the_caption_can_be_chosen(self):
@@ -131,6 +145,7 @@ class MakrunTest(unittest.TestCase):
         self.file("QUMAEXP.INI", "[MERLA]\r\nVersion=280\r\n")
         macro = self.macro("DIM V", "V=READINI(MERLA,Version)", "MSG=V")
         self.assertIn("MSG: 280", self.makrun(macro))
+        self.assertIn("MSG: 280", self.makrun("test.mak"))
 
     def test_settings_can_be_chosen(self):
         self.file("QUMAEXP.INI", "[MERLA]\r\nVersion=280\r\n")
@@ -187,9 +202,9 @@ class MakrunTest(unittest.TestCase):
         self.assertIn("Mandant:  4711 ", log)
 
     def test_answers_fill_the_dialog(self):
-        log = self.makrun("--press", "--answer", "frmInputbox.txtMandant=0815", "--answer", "frmInputbox.txtJahr=2004",
+        log = self.makrun("--press", "--answer", "frmInputbox.txtMandant=ü=1", "--answer", "frmInputbox.txtJahr=2004",
                           "--answer", "frmInputbox.cmdOK", self.client_macro())
-        self.assertIn("Mandant: 0815", log)
+        self.assertIn("Mandant: ü=1", log)
         self.assertIn("Wirtschaftsjahr: 2004", log)
 
     def test_a_cancelled_dialog_starts_no_run(self):
@@ -203,7 +218,9 @@ class MakrunTest(unittest.TestCase):
 
     def test_an_answer_that_nobody_asked_for_is_told(self):
         self.makrun("--answer", "frmInputEST.cmdOK", self.macro("MSG=a"))
-        self.assertIn("the answer frmInputEST.cmdOK was not asked for", self.errors)
+        self.assertEqual(self.errors, "makrun: the answer frmInputEST.cmdOK was not asked for\n")
+        self.makrun("--answer", "frmGröße.cmdOK", self.macro("MSG=a"))
+        self.assertEqual(self.errors, "makrun: the answer frmGröße.cmdOK was not asked for\n")
 
     def test_the_clipboard_holds_the_file(self):
         table = self.file("table.txt", "Größe\tb\r\n", "utf-8")
@@ -223,10 +240,10 @@ class MakrunTest(unittest.TestCase):
                          ["MSG: 01.03.2004 00:00:01", *COMPLETED])
 
     def test_the_family_can_be_chosen(self):
-        macro = self.macro("IF ISOSNT", "MSG=nt", "ELSE", "MSG=9x", "ENDIF")
+        macro = self.macro("DIM V", "V=WINVERSION", "IF ISOSNT", "MSG=nt", "ELSE", "MSG=V", "ENDIF")
         self.assertEqual(self.makrun(macro), ["MSG: nt", *COMPLETED])
         self.assertEqual(self.makrun("--family", "nt", macro), ["MSG: nt", *COMPLETED])
-        self.assertEqual(self.makrun("--family", "9x", macro), ["MSG: 9x", *COMPLETED])
+        self.assertEqual(self.makrun("--family", "9x", macro), ["MSG: 4.10", *COMPLETED])
 
     def test_the_user_cancels_at_the_time_limit(self):
         macro = self.macro("WAITFORWINDOW=kommt nie", "MSG=b")
@@ -238,6 +255,12 @@ class MakrunTest(unittest.TestCase):
         log = self.makrun(macro, status=2)
         self.assertEqual(log, ["MSG: a", "WaitForDialog: kommt / nie", "<Cancel>"])
         self.assertIn("line 2 (WAITFORDIALOG=kommt,nie)", self.errors)
+        self.assertIn("after 3600 seconds", self.errors)
+
+    def test_a_wait_is_given_up_a_minute_after_the_cancel(self):
+        self.assertEqual(self.makrun("--time-limit", 1, self.macro("WAIT=61000", "MSG=a")), ["MSG: a", *COMPLETED])
+        self.assertEqual(self.makrun("--time-limit", 1, self.macro("WAIT=61001", "MSG=a"), status=2), [])
+        self.assertIn("line 1 (WAIT=61001)", self.errors)
 
     def test_a_macro_that_passes_the_line_limit_is_given_up_with_its_line(self):
         macro = self.macro("REM", "MARK=a", "GOTO=a")

@@ -168,7 +168,7 @@ Rehearsal Rehearse(const Options& options) {
   result.log.assign(lines.begin() + static_cast<std::ptrdiff_t>(std::min(older, lines.size())), lines.end());
   for (const auto& box : simulated::MessageBoxes()) result.notes.push_back("message box: " + box.text);
   for (const Answer& answer : answers.Left())
-    result.notes.push_back("the answer " + answer.form + "." + answer.control + " was not asked for");
+    result.notes.push_back("the answer " + ProgramText(answer.form + "." + answer.control) + " was not asked for");
   return result;
 }
 
