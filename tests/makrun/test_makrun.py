@@ -174,6 +174,18 @@ class MakrunTest(unittest.TestCase):
         self.assertIn("MSG: 2100", self.makrun("--drive", drive, "--ini", other, macro))
         self.assertNotIn("MSG: 2100", self.makrun("--drive", drive, macro))
 
+    def test_a_file_beside_the_macro_is_copied_to_a_kept_drive_each_time(self):
+        drive = self.folder / "drive"
+        drive.mkdir()
+        for text in ["alt", "neu"]:
+            self.file("neben.txt", text)
+            self.makrun("--drive", drive, self.macro("MSG=a"))
+            self.assertEqual((drive / "QUMA" / "neben.txt").read_text(), text)
+        (drive / "QUMA" / "neben.txt").unlink()
+        (drive / "QUMA" / "neben.txt").mkdir()
+        self.makrun("--drive", drive, self.macro("MSG=a"), status=66)
+        self.assertIn("neben.txt cannot be copied", self.errors)
+
     def test_the_macros_folder_stays_as_it_is(self):
         macro = self.macro("MSG=a")
         before = sorted(self.folder.iterdir())
@@ -206,6 +218,46 @@ class MakrunTest(unittest.TestCase):
                           "--answer", "frmInputbox.cmdOK", self.client_macro())
         self.assertIn("Mandant: ü=1", log)
         self.assertIn("Wirtschaftsjahr: 2004", log)
+
+    def test_answers_check_rows_choose_entries_and_set_options(self):
+        arguments = self.desktop(
+            'window main "TeRu - 0012/4711/2005/Probelauf"\n'
+            'window assets "Anlagen"\n'
+            '  control ComboBox 11\n'
+            '    items "Inventar"\n'
+            '  control ComboBox 12\n'
+            '    items "01.01.2004" "01.01.2005"\n')
+        drive = self.folder / "drive"
+        drive.mkdir()
+        macro = self.macro("CREATEMATRIX=12,11,Anlagen,1", "SHOWINPUTANL=Jahre?", "REM", "DO", "IF MATRIX.CHECKED",
+                           "MSG=$MATRIXJAHR", "ENDIF", "LOOP UNTIL MATRIX.EOF")
+        log = self.makrun(*arguments, "--drive", drive, "--answer", "frmInputANL.lstViewJahr=31.12.2005",
+                          "--answer", "frmInputANL.cboGWG=Zugang und Abschreibung", macro)
+        self.assertEqual([line for line in log if line.startswith("MSG")], ["MSG: 01.01.2005"])
+        options = drive / "TeRu" / "Extern" / "Berater-12" / "4711" / "TDConv.cfg"
+        self.assertIn("GWGinAuswertungen=1", options.read_text())
+        for answer, reason in [("lstViewJahr=2005", 'has no row "2005"'), ("cboGWG=Größe", 'has no entry "Größe"'),
+                               ("lblInfo=x", "takes no answer")]:
+            with self.subTest(answer):
+                self.makrun(*arguments, "--answer", "frmInputANL." + answer, macro, status=64)
+                self.assertIn(f"frmInputANL.{answer.split('=')[0]} {reason}", self.errors)
+        self.assertIn("ShowInputDlg (2)", self.makrun("--answer", "frmInputEST.optCurrent",
+                                                      self.macro("SHOWINPUTDLG=Mandanten?")))
+
+    def test_a_dialog_that_stays_open_is_given_up_with_its_line(self):
+        log = self.makrun("--answer", "frmInputEST.optFromTo", "--answer", "frmInputEST.txtFrom=x",
+                          self.macro("MSG=a", "SHOWINPUTDLG=Mandanten?"), status=2)
+        self.assertEqual(log, ["MSG: a"])
+        self.assertEqual(self.errors.splitlines(), [
+            "makrun: message box: Bitte geben Sie eine numerische Mandantennummer ein!",
+            "makrun: given up: line 2 (SHOWINPUTDLG=Mandanten?) shows frmInputEST, which stays open whatever is answered"])
+
+    def test_a_dialog_takes_the_answers_that_name_it_and_leaves_the_others(self):
+        macro = self.macro("SHOWINPUTDLG=eins", "SHOWINPUTDLG=zwei")
+        log = self.makrun("--answer", "frmInputEST.optAll", "--answer", "frmInputEST.cmdOK",
+                          "--answer", "frmInputEST.optCurrent", "--answer", "frmInputANL.cmdOK", macro)
+        self.assertEqual(log, ["ShowInputDlg (1)", "ShowInputDlg (2)", *COMPLETED])
+        self.assertEqual(self.errors, "makrun: the answer frmInputANL.cmdOK was not asked for\n")
 
     def test_a_cancelled_dialog_starts_no_run(self):
         log = self.makrun("--press", "--answer", "frmInputbox.cmdCancel", self.client_macro(), status=2)
@@ -255,17 +307,21 @@ class MakrunTest(unittest.TestCase):
         log = self.makrun(macro, status=2)
         self.assertEqual(log, ["MSG: a", "WaitForDialog: kommt / nie", "<Cancel>"])
         self.assertIn("line 2 (WAITFORDIALOG=kommt,nie)", self.errors)
-        self.assertIn("after 3600 seconds", self.errors)
+        self.assertTrue(self.errors.endswith("after 3600 seconds\n"), self.errors)
 
     def test_a_wait_is_given_up_a_minute_after_the_cancel(self):
         self.assertEqual(self.makrun("--time-limit", 1, self.macro("WAIT=61000", "MSG=a")), ["MSG: a", *COMPLETED])
-        self.assertEqual(self.makrun("--time-limit", 1, self.macro("WAIT=61001", "MSG=a"), status=2), [])
+        self.assertEqual(self.makrun("--time-limit", 1, self.file("test.mak", "WAIT=61001"), status=2), [])
         self.assertIn("line 1 (WAIT=61001)", self.errors)
 
     def test_a_macro_that_passes_the_line_limit_is_given_up_with_its_line(self):
         macro = self.macro("REM", "MARK=a", "GOTO=a")
         self.makrun("--line-limit", 100, macro, status=2)
         self.assertRegex(self.errors, r"line [23] \(.*\).*limit of 100 lines")
+        macro = self.file("test.mak", "MSG=a\r\nMSG=b")
+        self.assertEqual(self.makrun("--line-limit", 3, macro), ["MSG: a", "MSG: b", *COMPLETED])  # ends empty
+        self.assertEqual(self.makrun("--line-limit", 1, macro, status=2), ["MSG: a"])
+        self.assertIn("line 2 (MSG=b) passed the limit of 1 lines", self.errors)
 
     def test_real_time_sleeps(self):
         macro = self.macro("WAIT=1500")
