@@ -462,6 +462,84 @@ class MakrunTest(unittest.TestCase):
             "Datei wird eingelesen (3) ", "Datei wird eingelesen (13) ", "Datei wird eingelesen (16) ", "MSG: ja",
             *COMPLETED])
 
+    def test_a_desktop_file_is_utf8_or_in_the_code_page(self):
+        for title, encoding in [("Größe", "utf-8"), ("Größe", "utf-8-sig"), ("Größe", "cp1252"), ("À€", "cp1252"),
+                                ("õ€€€", "cp1252"), ("Groß", "cp1252"), ("ä€€", "utf-8")]:
+            with self.subTest(title=title, encoding=encoding):
+                path = self.file("test.desktop", f'# x\r\nwindow main "{title}"\r\n  class Form\r\n', encoding)
+                macro = self.macro(f"IF ACTIVEWINDOW={title}", "MSG=ja", "ENDIF")
+                self.assertEqual(self.makrun("--desktop", path, macro), ["MSG: ja", *COMPLETED])
+
+    def test_a_brace_that_is_not_closed_is_text(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n  on command 1\n    text main "a{main} {b"\n')
+        self.assertIn("MSG: ja", self.makrun(*arguments, self.macro(
+            "MENUCLICK=1,TeRu,1", "WAIT=1", "IF ACTIVEWINDOW=aTeRu {b", "MSG=ja", "ENDIF")))
+
+    def test_windows_come_to_the_front_unless_they_are_hidden_or_disabled(self):
+        arguments = self.desktop(
+            'window weg "Weg"\n  hidden\n'
+            'window eins "Eins"\n  on command 1\n    close eins\n'
+            'window grau "Grau"\n  disabled\n'
+            'window zwei "Zwei"\n  on command 1\n    show weg\n    open weg\n  on command 2\n    hide zwei\n'
+            '  on command 3\n    open nie\n'
+            'dialog nie "Nie"\n')
+        def front(title):
+            return [f"IF ACTIVEWINDOW={title},TRUE", f"MSG={title}", "ENDIF"]
+        log = self.makrun(*arguments, self.macro(
+            *front("Eins"), *front("Nie"), "MENUCLICK=1,Eins,1", "WAIT=1", *front("Zwei"), "MENUCLICK=1,Zwei,1",
+            "WAIT=1", *front("Weg"), "MENUCLICK=3,Zwei,1", "WAIT=1", *front("Nie")))
+        self.assertEqual([line for line in log if line.startswith("MSG")],
+                         ["MSG: Eins", "MSG: Zwei", "MSG: Weg", "MSG: Nie"])
+
+    def test_classes_ids_places_and_check_marks(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  control Button 2 "Haken"\n'
+            '    at 100 200 30 40\n'
+            '    style checkbox\n'
+            '    checked\n'
+            '  control Button 3 "Wahl"\n'
+            '    style option\n'
+            '  control ThunderRT6Textbox 5 "vorher"\n'
+            '  on command 1\n'
+            '    when main.2 checked\n'
+            '      append "C:\\Neu\\t.txt" "an"\n'
+            '    when main.2 unchecked\n'
+            '      append "C:\\Neu\\t.txt" "aus"\n'
+            '    when main.5 text "vorher"\n'
+            '      append "C:\\Neu\\t.txt" "alt"\n'
+            '    uncheck main.2\n'
+            '    text main.5 "nachher"\n'
+            '  on close\n'
+            '    append "C:\\Neu\\t.txt" "bleibt"\n'
+            'folder "C:\\Neu\\Ordner"\n'
+            'environment "temp" "C:\\Neu\\Ordner"\n')
+        drive = self.folder / "drive"
+        drive.mkdir()
+        log = self.makrun(*arguments, "--drive", drive, self.macro(
+            "MENUCLICK=1,TeRu,1", "WAIT=1", "MENUCLICK=1,TeRu,1", "WAIT=1", "CLOSEWINDOW=TeRu,1", "WAIT=1",
+            "SETOPTION=3,TeRu,1,Button", "MOUSEMOVETOCTL=Button,Haken", "MSG=$TEMP"))
+        self.assertEqual((drive / "Neu" / "t.txt").read_text().split(), ["an", "alt", "aus", "bleibt"])
+        self.assertIn("MSG: C:\\Neu\\Ordner", log)
+        self.assertTrue((drive / "Neu" / "Ordner").is_dir())
+        self.assertIn("Maus an Koordinate bewegt: 105/205", log)
+
+    def test_the_buttons_of_a_box_have_the_ids_of_the_system(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  on command 1\n'
+            '    open question\n'
+            'box question "Frage" "Weiter?" "OK" "Abbrechen" "Ja" "Nein" "Hilfe"\n'
+            + "".join(f'  on command {id}\n    append "C:\\t.txt" "{id}"\n' for id in (1, 2, 6, 7, 105)))
+        drive = self.folder / "drive"
+        drive.mkdir()
+        lines = []
+        for id, caption in [(1, "OK"), (2, "Abbrechen"), (6, "Ja"), (7, "Nein"), (105, "Hilfe")]:
+            lines += ["MENUCLICK=1,TeRu,1", "WAIT=1", f"BUTTONCLICK={id},Frage,1,{caption},Button", "WAIT=1"]
+        self.makrun(*arguments, "--drive", drive, self.macro(*lines))
+        self.assertEqual((drive / "t.txt").read_text().split(), ["1", "2", "6", "7", "105"])
+
     def test_a_list_is_filled_and_selected_by_its_key_and_shows_its_rows(self):
         arguments = self.desktop(
             'window main "TeRu"\n'
