@@ -275,11 +275,13 @@ class MakrunTest(unittest.TestCase):
         self.assertEqual(self.errors, "makrun: the answer frmGröße.cmdOK was not asked for\n")
 
     def test_the_clipboard_holds_the_file(self):
-        table = self.file("table.txt", "Größe\tb\r\n", "utf-8")
         drive = self.folder / "drive"
         drive.mkdir()
-        self.makrun("--clipboard", table, "--drive", drive, self.macro("SAVECLIPBOARD=C:\\t.csv"))
+        macro = self.macro("SAVECLIPBOARD=C:\\t.csv")
+        self.makrun("--clipboard", self.file("table.txt", "Größe\tb\r\n", "utf-8"), "--drive", drive, macro)
         self.assertEqual((drive / "t.csv").read_bytes(), '"Größe";"b";\r\n'.encode("cp1252"))
+        self.makrun("--clipboard", self.file("table.txt", "a\tß", "cp1252"), "--drive", drive, macro)
+        self.assertIn(b'"a";"\xdf', (drive / "t.csv").read_bytes())
 
     def test_a_failed_run_is_resumed_so_often(self):
         macro = self.macro("RAISEERROR=eins", "MSG=a", "RAISEERROR=zwei", "MSG=b")
@@ -464,10 +466,12 @@ class MakrunTest(unittest.TestCase):
 
     def test_a_desktop_file_is_utf8_or_in_the_code_page(self):
         for title, encoding in [("Größe", "utf-8"), ("Größe", "utf-8-sig"), ("Größe", "cp1252"), ("À€", "cp1252"),
-                                ("õ€€€", "cp1252"), ("Groß", "cp1252"), ("ä€€", "utf-8")]:
+                                ("õ€€€", "cp1252"), ("Groß", "cp1252"), ("ä€€", "utf-8"), ("Ãü", "cp1252"),
+                                ("😀", "utf-8")]:
             with self.subTest(title=title, encoding=encoding):
                 path = self.file("test.desktop", f'# x\r\nwindow main "{title}"\r\n  class Form\r\n', encoding)
-                macro = self.macro(f"IF ACTIVEWINDOW={title}", "MSG=ja", "ENDIF")
+                shown = title.replace("😀", "?")
+                macro = self.macro(f"IF ACTIVEWINDOW={shown}", "MSG=ja", "ENDIF")
                 self.assertEqual(self.makrun("--desktop", path, macro), ["MSG: ja", *COMPLETED])
 
     def test_a_brace_that_is_not_closed_is_text(self):
