@@ -540,8 +540,9 @@ class MakrunTest(unittest.TestCase):
         drive.mkdir()
         lines = []
         for id, caption in [(1, "OK"), (2, "Abbrechen"), (6, "Ja"), (7, "Nein"), (105, "Hilfe")]:
-            lines += ["MENUCLICK=1,TeRu,1", "WAIT=1", f"BUTTONCLICK={id},Frage,1,{caption},Button", "WAIT=1"]
-        self.makrun(*arguments, "--drive", drive, self.macro(*lines))
+            lines += ["MENUCLICK=1,TeRu,1", "WAIT=1", f"BUTTONCLICK={id},Frage,1,{caption},Button", "WAIT=1",
+                      "IF CONFIRMDIALOG=Frage,Weiter", "MSG=noch offen", "ENDIF"]
+        self.assertNotIn("MSG: noch offen", self.makrun(*arguments, "--drive", drive, self.macro(*lines)))
         self.assertEqual((drive / "t.txt").read_text().split(), ["1", "2", "6", "7", "105"])
 
     def test_a_list_is_filled_and_selected_by_its_key_and_shows_its_rows(self):
