@@ -5,7 +5,6 @@ import pathlib
 import re
 import shutil
 import sys
-import time
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent

@@ -9,7 +9,6 @@ from harness import (
     CODE_PAGE,
     COMPLETED,
     DESTINATION,
-    FOLDER,
     PROGRAM,
     REGISTRY_KEY,
     STARS,
