@@ -40,4 +40,34 @@ std::string FromUtf16(std::u16string_view text) {
   return bytes;
 }
 
+std::string ToUtf8(std::string_view text) {
+  std::string result;
+  for (const char16_t code : ToUtf16(text)) {
+    if (code < 0x80) {
+      result += static_cast<char>(code);
+    } else if (code < 0x800) {
+      result += {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 0x3F))};
+    } else {
+      result += {static_cast<char>(0xE0 | code >> 12), static_cast<char>(0x80 | (code >> 6 & 0x3F)),
+                 static_cast<char>(0x80 | (code & 0x3F))};
+    }
+  }
+  return result;
+}
+
+std::string FromUtf8(std::string_view text) {
+  constexpr unsigned kLacking = 0xFFFD;  // for what does not fit 16 bits, which the code page lacks anyhow
+  std::u16string characters;
+  for (std::size_t i = 0; i < text.size();) {
+    const auto lead = static_cast<unsigned char>(text[i]);
+    const std::size_t length = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    unsigned code = length == 1 ? lead : lead & (0x7Fu >> length);
+    for (std::size_t k = 1; k < length && i + k < text.size(); ++k)
+      code = code << 6 | (static_cast<unsigned char>(text[i + k]) & 0x3F);
+    characters += static_cast<char16_t>(code > 0xFFFF ? kLacking : code);
+    i += length;
+  }
+  return FromUtf16(characters);
+}
+
 }  // namespace runtime

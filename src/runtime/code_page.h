@@ -12,4 +12,8 @@ std::u16string ToUtf16(std::string_view text);
 // Characters that the code page lacks become "?".
 std::string FromUtf16(std::u16string_view text);
 
+// The same against UTF-8.
+std::string ToUtf8(std::string_view text);
+std::string FromUtf8(std::string_view text);
+
 }  // namespace runtime

@@ -4,11 +4,12 @@
 #include <filesystem>
 #include <string>
 
+#include "runtime/code_page.h"
+
 namespace platform::simulated {
 
-// Windows-1252 and UTF-8. What the code page lacks becomes a question mark.
-std::string ToUtf8(const std::string& text);
-std::string FromUtf8(const std::string& text);
+using runtime::FromUtf8;
+using runtime::ToUtf8;
 
 // Windows-1252 and names of the host's files: UTF-8, but for a Windows host, which takes the code page.
 std::string ToHost(const std::string& text);

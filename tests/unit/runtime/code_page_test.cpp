@@ -20,4 +20,10 @@ TEST(CodePage, CharacterThatItLacksBecomesAQuestionMark) {
   EXPECT_EQ(runtime::FromUtf16(u"\U0001F600"), "??");
 }
 
+TEST(CodePage, IsWrittenInUtf8AndReadFromIt) {
+  EXPECT_EQ(runtime::ToUtf8("Aü€"), "A\xC3\xBC\xE2\x82\xAC");
+  EXPECT_EQ(runtime::FromUtf8("A\xC3\xBC\xE2\x82\xAC"), "Aü€");
+  EXPECT_EQ(runtime::FromUtf8("\xC5\x81\xF0\x9F\x98\x80."), "??.");
+}
+
 }  // namespace
