@@ -1,5 +1,6 @@
 """makrun from outside: each option, each exit status, and each mistake that a desktop file can hold."""
 
+import os
 import pathlib
 import re
 import subprocess
@@ -27,8 +28,9 @@ class MakrunTest(unittest.TestCase):
     def macro(self, *lines, name="test.mak"):
         return self.file(name, "".join(line + "\r\n" for line in lines))
 
-    def makrun(self, *arguments, status=0):
-        done = subprocess.run([str(MAKRUN), *map(str, arguments)], capture_output=True, timeout=300, cwd=self.folder)
+    def makrun(self, *arguments, status=0, **environment):
+        done = subprocess.run([str(MAKRUN), *map(str, arguments)], capture_output=True, timeout=300, cwd=self.folder,
+                              env={**os.environ, "LC_ALL": "C", **environment})
         errors = done.stderr.decode()
         self.assertEqual(done.returncode, status, errors)
         self.errors = errors
@@ -111,7 +113,8 @@ class MakrunTest(unittest.TestCase):
 
     def test_an_output_that_cannot_be_written_ends_with_66(self):
         with open("/dev/full", "wb") as full:
-            done = subprocess.run([str(MAKRUN), self.macro("MSG=a")], stdout=full, stderr=subprocess.PIPE, timeout=60)
+            done = subprocess.run([str(MAKRUN), self.macro("MSG=a")], stdout=full, stderr=subprocess.PIPE, timeout=60,
+                                  env={**os.environ, "LC_ALL": "C"})
         self.assertEqual(done.returncode, 66)
         self.assertIn("standard output cannot be written", done.stderr.decode())
 
@@ -130,6 +133,27 @@ class MakrunTest(unittest.TestCase):
 
     def test_help_tells_the_options(self):
         self.assertIn("--desktop FILE", "\n".join(self.makrun("--help")))
+
+    def test_it_speaks_german_on_a_german_system_and_english_elsewhere(self):
+        missing = str(self.folder / "fehlt.mak")
+        for language, said in [("C", "cannot be read"), ("de_DE.UTF-8", "kann nicht gelesen werden")]:
+            with self.subTest(language):
+                self.makrun(missing, status=66, LC_ALL=language)
+                self.assertIn(f"makrun: {missing} {said}: ", self.errors)
+
+    def test_the_language_can_be_chosen_also_for_what_is_wrong_in_front_of_it(self):
+        self.makrun("--unknown", "--lang", "de", status=64)
+        self.assertIn("makrun: die Option --unknown gibt es nicht\nAufruf: makrun", self.errors)
+        self.makrun("--lang", "en", "--unknown", status=64, LC_ALL="de_DE.UTF-8")
+        self.assertIn("makrun: there is no option --unknown\nusage: makrun", self.errors)
+        self.makrun("--lang", "fr", self.macro("MSG=a"), status=64)
+        self.assertIn('--lang wants de or en, not "fr"', self.errors)
+
+    def test_help_tells_the_same_options_in_both_languages(self):
+        options = [re.findall(r"^  (--\S+)", "\n".join(self.makrun("--help", "--lang", language)), re.MULTILINE)
+                   for language in ("en", "de")]
+        self.assertEqual(*options)
+        self.assertIn("--lang", options[0])
 
     # --- options
 

@@ -5,13 +5,13 @@
 
 #include "actions.h"
 #include "arguments.h"
+#include "common/tool.h"
 #include "desktop_text.h"
 #include "files.h"
 #include "platform/messages.h"
 #include "platform/registry.h"
 #include "platform/simulated/desktop.h"
 #include "platform/simulated/host_paths.h"
-#include "rehearse.h"
 #include "scene.h"
 
 namespace makrun {
@@ -48,7 +48,7 @@ class Loader {
   static void PutStanding(const Arguments& arguments, Operation&& operation) {
     try {
       operation();
-    } catch (const FileError& error) {
+    } catch (const tools::FileError& error) {
       arguments.Mistake("a path of a drive that there is; " + error.text);
     }
   }

@@ -1,7 +1,7 @@
 #include "desktop_text.h"
 
-#include "files.h"
-#include "rehearse.h"
+#include "common/code_pages.h"
+#include "common/tool.h"
 #include "runtime/text.h"
 
 namespace makrun {
@@ -19,7 +19,7 @@ class Reader {
 
   std::vector<Statement> Read() {
     int number = 0;
-    for (std::string line : runtime::Split(ProgramText(ReadHostFile(path_)), '\n')) {
+    for (std::string line : runtime::Split(tools::ProgramText(tools::ReadFile(path_)), '\n')) {
       ++number;
       if (line.ends_with('\r')) line.pop_back();
       ReadLine(number, line);
@@ -83,7 +83,7 @@ class Reader {
 std::vector<Statement> ReadStatements(const std::string& path) { return Reader(path).Read(); }
 
 void RaiseMistake(const std::string& path, int line, const std::string& expected) {
-  throw FileError{path + ":" + std::to_string(line) + ": expected " + expected};
+  throw tools::FileError{path + ":" + std::to_string(line) + ": expected " + expected};
 }
 
 }  // namespace makrun

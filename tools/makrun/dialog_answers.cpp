@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
-#include "files.h"
+#include "common/code_pages.h"
+#include "common/tool.h"
 #include "forms/simulated/user.h"
+#include "texts.h"
 
 namespace makrun {
 namespace {
@@ -16,8 +18,8 @@ forms::Control* FindControl(const forms::Form& form, const std::string& name) {
   return nullptr;
 }
 
-[[noreturn]] void Refuse(const Answer& answer, const std::string& why) {
-  throw UsageError{"--answer: " + answer.form + "." + answer.control + " " + why};
+[[noreturn]] void Refuse(const tools::Text& why, const Answer& answer) {
+  throw tools::UsageError{tools::Say(why, {answer.form, answer.control, answer.text})};
 }
 
 bool Shows(const forms::ListItem& item, const std::string& text) {
@@ -25,7 +27,7 @@ bool Shows(const forms::ListItem& item, const std::string& text) {
 }
 
 void Choose(forms::ComboBox& combo, const Answer& answer, const std::string& entry) {
-  if (std::ranges::count(combo.Items(), entry) == 0) Refuse(answer, "has no entry \"" + answer.text + "\"");
+  if (std::ranges::count(combo.Items(), entry) == 0) Refuse(say::kNoSuchEntry, answer);
   user::Choose(combo, entry);
 }
 
@@ -37,13 +39,13 @@ void Check(forms::ListView& list, const Answer& answer, const std::string& text)
     user::ClickBox(list, item);
     found = true;
   }
-  if (!found) Refuse(answer, "has no row \"" + answer.text + "\"");
+  if (!found) Refuse(say::kNoSuchRow, answer);
 }
 
 void Give(forms::Form& form, const Answer& answer) {
   forms::Control* const control = FindControl(form, answer.control);
-  if (control == nullptr) Refuse(answer, "does not exist");
-  const std::string text = ProgramText(answer.text);
+  if (control == nullptr) Refuse(say::kNoSuchControl, answer);
+  const std::string text = tools::ProgramText(answer.text);
   switch (control->kind) {
     case forms::ControlKind::Button:
       return user::Press(static_cast<forms::Button&>(*control));
@@ -56,7 +58,7 @@ void Give(forms::Form& form, const Answer& answer) {
     case forms::ControlKind::ListView:
       return Check(static_cast<forms::ListView&>(*control), answer, text);
     default:
-      Refuse(answer, "takes no answer");
+      Refuse(say::kTakesNoAnswer, answer);
   }
 }
 

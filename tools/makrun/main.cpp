@@ -1,65 +1,54 @@
 // makrun: rehearses a macro on a simulated desktop and prints the log of the run.
-#include <cstdio>
-#include <exception>
 #include <string>
 #include <vector>
 
+#include "common/exit_status.h"
+#include "common/tool.h"
 #include "options.h"
-#include "platform/simulated/host_paths.h"
 #include "rehearse.h"
+#include "runtime/code_page.h"
+#include "texts.h"
 
 namespace {
 
-constexpr int kWrongUsage = 64;
-constexpr int kUnreadable = 66;
+using tools::Say;
 
 int StatusOf(makrun::Outcome outcome) {
   switch (outcome) {
     case makrun::Outcome::Completed:
-      return 0;
+      return tools::kFine;
     case makrun::Outcome::Failed:
-      return 1;
+      return tools::kFound;
     case makrun::Outcome::Stopped:
-      return 2;
+      return tools::kGivenUp;
   }
-  return 2;
+  return tools::kGivenUp;
 }
 
-void Complain(const std::string& text) { std::fprintf(stderr, "makrun: %s\n", text.c_str()); }
+void Complain(const std::string& text) { tools::Complain("makrun", text); }
 
-int Run(const makrun::Options& options) {
+void Print(const std::string& text) {
+  if (!tools::Write(stdout, text))
+    throw tools::FileError{Say(makrun::say::kNotWritten, {Say(makrun::say::kStandardOutput)})};
+}
+
+int Run(const std::vector<std::string>& arguments) {
+  const makrun::Options options = makrun::ReadOptions(arguments);
+  if (options.help) {
+    Print(Say(makrun::say::kUsage));
+    return tools::kFine;
+  }
   const makrun::Rehearsal rehearsal = makrun::Rehearse(options);
   std::string output;
-  for (const std::string& line : rehearsal.log) output += platform::simulated::ToUtf8(line) + "\n";
-  const bool written = std::fwrite(output.data(), 1, output.size(), stdout) == output.size();
-  if (!written || std::fflush(stdout) != 0) throw makrun::FileError{"standard output cannot be written"};
-  for (const std::string& note : rehearsal.notes) Complain(platform::simulated::ToUtf8(note));
+  for (const std::string& line : rehearsal.log) output += runtime::ToUtf8(line) + "\n";
+  Print(output);
+  for (const std::string& note : rehearsal.notes) Complain(note);
   // A failed run is told in the program's own words alone.
-  const std::string reason = platform::simulated::ToUtf8(rehearsal.reason);
-  if (rehearsal.outcome == makrun::Outcome::Failed) std::fprintf(stderr, "%s\n", reason.c_str());
-  else if (!reason.empty()) Complain(reason);
+  if (rehearsal.outcome == makrun::Outcome::Failed) tools::Write(stderr, rehearsal.reason + "\n");
+  else if (!rehearsal.reason.empty()) Complain(rehearsal.reason);
   return StatusOf(rehearsal.outcome);
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  try {
-    const makrun::Options options = makrun::ReadOptions(std::vector<std::string>(argv + 1, argv + argc));
-    if (options.help) {
-      std::fputs(makrun::kUsage, stdout);
-      return 0;
-    }
-    return Run(options);
-  } catch (const makrun::UsageError& error) {
-    Complain(error.text);
-    std::fputs(makrun::kUsage, stderr);
-    return kWrongUsage;
-  } catch (const makrun::FileError& error) {
-    Complain(error.text);
-    return kUnreadable;
-  } catch (const std::exception& error) {  // of the host: the drive's folder, or one for temporary files
-    Complain(error.what());
-    return kUnreadable;
-  }
-}
+int main(int argc, char** argv) { return tools::RunTool("makrun", makrun::say::kUsage, argc, argv, Run); }

@@ -1,23 +1,18 @@
 #include "options.h"
 
-#include <charconv>
 #include <chrono>
 #include <cstdio>
-#include <functional>
 #include <limits>
-#include <map>
+#include <type_traits>
+
+#include "common/tool.h"
+#include "texts.h"
 
 namespace makrun {
 namespace {
 
-template <class Number>
-Number ReadNumber(const std::string& option, const std::string& text, Number highest) {
-  Number number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size() || number < 0 || number > highest)
-    throw UsageError{option + " wants a number from 0 to " + std::to_string(highest) + ", not \"" + text + "\""};
-  return number;
-}
+using tools::Say;
+using tools::UsageError;
 
 // "2006-03-14 09:30:00"
 runtime::DateTime ReadTime(const std::string& text) {
@@ -30,7 +25,7 @@ runtime::DateTime ReadTime(const std::string& text) {
   const bool inDay =
       time.hour >= 0 && time.hour < 24 && time.minute >= 0 && time.minute < 60 && time.second >= 0 && time.second < 60;
   if (count != 6 || static_cast<std::size_t>(length) != text.size() || time.year < 100 || !date.ok() || !inDay)
-    throw UsageError{"--now wants a time such as \"2006-03-14 09:30:00\", not \"" + text + "\""};
+    throw UsageError{Say(say::kWantsTime, {text})};
   return time;
 }
 
@@ -40,90 +35,50 @@ Answer ReadAnswer(const std::string& text) {
   const std::string name = text.substr(0, equals);
   const auto point = name.find('.');
   if (point == std::string::npos || point == 0 || point + 1 == name.size())
-    throw UsageError{"--answer wants FORM.CONTROL or FORM.CONTROL=TEXT, not \"" + text + "\""};
+    throw UsageError{Say(say::kWantsAnswer, {text})};
   return {name.substr(0, point), name.substr(point + 1), equals == std::string::npos ? "" : text.substr(equals + 1)};
-}
-
-// A file or folder; the empty text would stand for an option that is not given.
-std::string ReadPath(const std::string& option, const std::string& text) {
-  if (text.empty()) throw UsageError{option + " wants a value"};
-  return text;
 }
 
 bool ReadFamily(const std::string& text) {
   if (text == "nt" || text == "9x") return text == "nt";
-  throw UsageError{"--family wants nt or 9x, not \"" + text + "\""};
+  throw UsageError{Say(say::kWantsFamily, {text})};
 }
 
 }  // namespace
 
-const char* const kUsage =
-    "usage: makrun [options] MACRO.MAK\n"
-    "Runs a macro on a simulated desktop and prints the log of the run.\n"
-    "\n"
-    "  --desktop FILE          the windows that the macro meets; without it one main window\n"
-    "  --caption TEXT          caption of that main window; default \"TeRu - 0012 / 4711 / 2005 / Probelauf\"\n"
-    "  --ini FILE              settings; default QUMAEXP.INI beside the macro, none if it is not there\n"
-    "  --drive DIR             folder that stands for drive C: and is kept; default a temporary one\n"
-    "  --press                 start as the hot key does instead of running the macro directly\n"
-    "  --answer FORM.CONTROL=TEXT\n"
-    "                          what the user does in a dialog, in order; FORM.cmdOK and FORM.cmdCancel press\n"
-    "  --clipboard FILE        text that is on the clipboard at the start\n"
-    "  --resume N              go on behind a failed line, N times at most; default 0\n"
-    "  --now \"2006-03-14 09:30:00\"\n"
-    "                          the clock at the start\n"
-    "  --family nt|9x          the Windows family; default nt\n"
-    "  --time-limit SECONDS    simulated seconds after which the user cancels; default 3600\n"
-    "  --line-limit N          visited lines after which the rehearsal is given up; default 10000000\n"
-    "  --real-time             sleep in real time\n"
-    "  --trace                 each visited line, its verb and arguments, on standard error\n"
-    "  --help                  this text\n"
-    "\n"
-    "Exit status: 0 completed, 1 failed, 2 stopped or given up, 64 wrong command line, 66 a file cannot be read.\n";
-
 Options ReadOptions(const std::vector<std::string>& arguments) {
+  using Value = const std::string&;
   Options options;
-  const std::map<std::string, std::function<void()>> flags = {
-      {"--press", [&] { options.press = true; }},
-      {"--real-time", [&] { options.realTime = true; }},
-      {"--trace", [&] { options.trace = true; }},
-      {"--help", [&] { options.help = true; }},
+  tools::CommandLine line;
+  const auto path = [&](const std::string& name, std::string& taken) {
+    line.Setting(name, [name, &taken](Value value) { taken = tools::ReadSome(name, value); });
   };
-  using Text = const std::string&;
-  const std::map<std::string, std::function<void(Text)>> settings = {
-      {"--desktop", [&](Text text) { options.desktop = ReadPath("--desktop", text); }},
-      {"--caption", [&](Text text) { options.caption = text; }},
-      {"--ini", [&](Text text) { options.ini = ReadPath("--ini", text); }},
-      {"--drive", [&](Text text) { options.drive = ReadPath("--drive", text); }},
-      {"--answer", [&](Text text) { options.answers.push_back(ReadAnswer(text)); }},
-      {"--clipboard", [&](Text text) { options.clipboard = ReadPath("--clipboard", text); }},
-      {"--resume", [&](Text text) { options.resumes = ReadNumber("--resume", text, 1'000'000); }},
-      {"--now", [&](Text text) { options.now = ReadTime(text); }},
-      {"--family", [&](Text text) { options.nt = ReadFamily(text); }},
-      // Events of the simulated desktop lie at most 2^31 milliseconds ahead.
-      {"--time-limit", [&](Text text) { options.timeLimit = ReadNumber("--time-limit", text, 2'000'000); }},
-      {"--line-limit",
-       [&](Text text) {
-         options.lineLimit = ReadNumber("--line-limit", text, std::numeric_limits<std::int64_t>::max());
-       }},
+  const auto number = [&](const std::string& name, auto& taken, std::int64_t highest) {
+    line.Setting(name, [name, &taken, highest](Value value) {
+      taken = static_cast<std::remove_reference_t<decltype(taken)>>(tools::ReadNumber(name, value, highest));
+    });
   };
+  path("--desktop", options.desktop);
+  path("--ini", options.ini);
+  path("--drive", options.drive);
+  path("--clipboard", options.clipboard);
+  number("--resume", options.resumes, 1'000'000);
+  // Events of the simulated desktop lie at most 2^31 milliseconds ahead.
+  number("--time-limit", options.timeLimit, 2'000'000);
+  number("--line-limit", options.lineLimit, std::numeric_limits<std::int64_t>::max());
+  line.Setting("--caption", [&](Value value) { options.caption = value; });
+  line.Setting("--answer", [&](Value value) { options.answers.push_back(ReadAnswer(value)); });
+  line.Setting("--now", [&](Value value) { options.now = ReadTime(value); });
+  line.Setting("--family", [&](Value value) { options.nt = ReadFamily(value); });
+  line.Flag("--press", options.press);
+  line.Flag("--real-time", options.realTime);
+  line.Flag("--trace", options.trace);
 
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& argument = arguments[i];
-    if (const auto flag = flags.find(argument); flag != flags.end()) {
-      flag->second();
-    } else if (const auto setting = settings.find(argument); setting != settings.end()) {
-      if (++i == arguments.size()) throw UsageError{argument + " wants a value"};
-      setting->second(arguments[i]);
-    } else if (argument.starts_with("--")) {
-      throw UsageError{"there is no option " + argument};
-    } else if (!options.macro.empty()) {
-      throw UsageError{"one macro at a time: \"" + options.macro + "\" or \"" + argument + "\""};
-    } else {
-      options.macro = argument;
-    }
-  }
-  if (options.macro.empty() && !options.help) throw UsageError{"no macro is named"};
+  const std::vector<std::string> macros = line.Read(arguments);
+  options.help = line.Help();
+  if (macros.size() > 1) throw UsageError{Say(say::kOneMacro, {macros[0], macros[1]})};
+  if (!macros.empty()) options.macro = macros[0];
+  if (options.macro.empty() && !options.help) throw UsageError{Say(say::kNoMacro)};
   return options;
 }
 

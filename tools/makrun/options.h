@@ -35,15 +35,7 @@ struct Options {
   bool help = false;
 };
 
-// A command line that cannot be understood; the text says why.
-struct UsageError {
-  std::string text;
-};
-
 // Reads the arguments behind the program's name. Faults: UsageError.
 Options ReadOptions(const std::vector<std::string>& arguments);
-
-// What the options are.
-extern const char* const kUsage;
 
 }  // namespace makrun

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "common/code_pages.h"
+#include "common/tool.h"
 #include "desktop_file.h"
 #include "dialog_answers.h"
 #include "engine/line_watch.h"
@@ -21,6 +23,7 @@
 #include "platform/simulated/host_paths.h"
 #include "platform/system.h"
 #include "rehearsal.h"
+#include "texts.h"
 #include "trace.h"
 
 namespace makrun {
@@ -30,6 +33,10 @@ namespace fs = std::filesystem;
 namespace simulated = platform::simulated;
 using basMain::run;
 using rehearsal::kProgram;
+using tools::FileError;
+using tools::ProgramText;
+using tools::ReadFile;
+using tools::Say;
 
 // How long a wait may take to notice that the user has cancelled, in simulated seconds.
 constexpr std::int32_t kGrace = 60;
@@ -43,7 +50,7 @@ std::string MacroName(const Options& options) { return ProgramText(fs::path(opti
 void PrepareSystem(const Options& options) {
   if (!options.drive.empty()) {
     std::error_code error;
-    if (!fs::is_directory(options.drive, error)) throw FileError{options.drive + " is no folder"};
+    if (!fs::is_directory(options.drive, error)) throw FileError{Say(say::kNoFolder, {options.drive})};
     simulated::SetDrive('C', options.drive);
     simulated::SetApplicationPath(kProgram);
   }
@@ -57,26 +64,26 @@ void FillProgramFolder(const Options& options) {
   const fs::path macro(options.macro);
   const fs::path beside = macro.has_parent_path() ? macro.parent_path() : fs::path(".");
   const fs::path program(simulated::HostPath(kProgram));
-  const std::string text = ReadHostFile(options.macro);
+  const std::string text = ReadFile(options.macro);
   std::error_code error;
   if (!fs::equivalent(beside, program, error)) {
     fs::remove(simulated::HostPath(kSettings), error);  // those of an earlier rehearsal on a kept drive
     for (const auto& entry : fs::directory_iterator(beside, error)) {
       if (!entry.is_regular_file() || entry.path().filename() == "QUMAEXP.LOG") continue;
       fs::copy_file(entry.path(), program / entry.path().filename(), fs::copy_options::overwrite_existing, error);
-      if (error) throw FileError{entry.path().string() + " cannot be copied: " + error.message()};
+      if (error) throw FileError{Say(say::kNotCopied, {entry.path().string(), error.message()})};
     }
     // Also one that the folder does not list as a file. A name that the program cannot open is told here.
     PutSimulatedFile(kProgram + "\\" + MacroName(options), text);
   }
-  if (!options.ini.empty()) simulated::PutFile(kSettings, ReadHostFile(options.ini));
+  if (!options.ini.empty()) simulated::PutFile(kSettings, ReadFile(options.ini));
 }
 
 void PrepareDesktop(const Options& options) {
   if (!options.desktop.empty()) LoadDesktopFile(options.desktop);
   else
     simulated::Activate(simulated::AddWindow({.className = "ThunderRT6FormDC", .text = ProgramText(options.caption)}));
-  if (!options.clipboard.empty()) simulated::Clipboard() = ProgramText(ReadHostFile(options.clipboard));
+  if (!options.clipboard.empty()) simulated::Clipboard() = ProgramText(ReadFile(options.clipboard));
 }
 
 // The user loses patience; a wait that does not look at the cancel is then cut off.
@@ -128,7 +135,7 @@ void GiveUp(Rehearsal& rehearsal, const std::string& why) {
   const auto index = static_cast<std::size_t>(run.CurrentLine);
   const std::string line = index < run.MakroLines.size() ? run.MakroLines[index] : "";
   rehearsal.outcome = Outcome::Stopped;
-  rehearsal.reason = "given up: line " + std::to_string(run.CurrentLine + 1) + " (" + line + ") " + why;
+  rehearsal.reason = Say(say::kGivenUp, {std::to_string(run.CurrentLine + 1), simulated::ToUtf8(line), why});
 }
 
 }  // namespace
@@ -139,7 +146,7 @@ Rehearsal Rehearse(const Options& options) {
   FillProgramFolder(options);
   PrepareDesktop(options);
   rehearsal::StartProgram();
-  if (!basMain::log.LogStream) throw FileError{basMain::LogFile() + " cannot be written"};
+  if (!basMain::log.LogStream) throw FileError{Say(say::kNotWritten, {simulated::ToUtf8(basMain::LogFile())})};
   const std::size_t older = rehearsal::LinesOf(basMain::LogFile()).size();
   DialogAnswers answers(options.answers);
   LimitTime(options.timeLimit);
@@ -150,25 +157,24 @@ Rehearsal Rehearse(const Options& options) {
   Rehearsal result;
   try {
     result.outcome = Perform(options, MacroName(options));
-    if (result.outcome == Outcome::Failed) result.reason = run.LastError;
+    if (result.outcome == Outcome::Failed) result.reason = simulated::ToUtf8(run.LastError);
     if (visited == 0) {
       result.outcome = simulated::MessageBoxes().empty() ? Outcome::Stopped : Outcome::Failed;
-      result.reason = "the press started no run";
+      result.reason = Say(say::kNoRun);
     }
   } catch (const simulated::TimeLimitPassed&) {
-    GiveUp(result,
-           "went on waiting although the user had cancelled after " + std::to_string(options.timeLimit) + " seconds");
+    GiveUp(result, Say(say::kGoesOnWaiting, {std::to_string(options.timeLimit)}));
   } catch (const LineLimitPassed&) {
-    GiveUp(result, "passed the limit of " + std::to_string(options.lineLimit) + " lines");
+    GiveUp(result, Say(say::kLineLimit, {std::to_string(options.lineLimit)}));
   } catch (const DialogStays& dialog) {
-    GiveUp(result, "shows " + dialog.form + ", which stays open whatever is answered");
+    GiveUp(result, Say(say::kDialogStays, {dialog.form}));
   }
   trace.Finish();
   auto lines = rehearsal::LinesOf(basMain::LogFile());
   result.log.assign(lines.begin() + static_cast<std::ptrdiff_t>(std::min(older, lines.size())), lines.end());
-  for (const auto& box : simulated::MessageBoxes()) result.notes.push_back("message box: " + box.text);
+  for (const auto& box : simulated::MessageBoxes()) result.notes.push_back(Say(say::kMessageBox, {simulated::ToUtf8(box.text)}));
   for (const Answer& answer : answers.Left())
-    result.notes.push_back("the answer " + ProgramText(answer.form + "." + answer.control) + " was not asked for");
+    result.notes.push_back(Say(say::kNotAskedFor, {answer.form, answer.control}));
   return result;
 }
 

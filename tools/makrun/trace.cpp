@@ -2,12 +2,13 @@
 
 #include <cstdio>
 
-#include "platform/simulated/host_paths.h"
+#include "common/tool.h"
+#include "runtime/code_page.h"
 
 namespace makrun {
 namespace {
 
-void Print(const std::string& line) { std::fprintf(stderr, "%s\n", platform::simulated::ToUtf8(line).c_str()); }
+void Print(const std::string& line) { tools::Write(stderr, runtime::ToUtf8(line) + "\n"); }
 
 }  // namespace
 
