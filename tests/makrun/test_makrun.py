@@ -366,6 +366,7 @@ class MakrunTest(unittest.TestCase):
 
     def test_mistakes_of_a_desktop_file_are_reported_with_line_and_expectation(self):
         window = 'window main "TeRu"\n'
+        control = window + "  control Edit 1\n  on command 1\n"
         for text, line, expected in [
             ("\twindow main \"x\"", 1, "an indentation of blanks"),
             ("  window main \"x\"", 1, "a first statement that is not indented"),
@@ -397,8 +398,9 @@ class MakrunTest(unittest.TestCase):
             (window + "  on character a\n    close main", 2, "the code of the character"),
             (window + "  on key F6\n    close main", 2, "the code of the key"),
             (window + "  folder-to x", 2, "the id of a child"),
+            (window + "  folder-to 1", 2, "the id of a child"),
             (window + "  control Button 1\n    folder-to 2", 3, "a property of the window"),
-            (window + "  on command 1\n    row main.1 a", 3, "the row's cells in double quotes"),
+            (control + "    row main.1 a", 4, "the row's cells in double quotes"),
             (window + "  on command 1\n    clear fehlt.1", 3, "the name of a window of this file, or NAME.ID"),
             (window + "  on command", 2, "the id of the command"),
             (window + "  on notification 1", 2, "the code of the notification"),
@@ -410,11 +412,11 @@ class MakrunTest(unittest.TestCase):
             (window + "  on command 1\n    open fehlt", 3, "the name of a window of this file"),
             (window + "  on command 1\n    text fehlt.1 \"x\"", 3, "the name of a window of this file, or NAME.ID"),
             (window + "  on command 1\n    text main.x \"x\"", 3, "the name of a window of this file, or NAME.ID"),
-            (window + "  on command 1\n    text main.1", 3, "the new text in double quotes"),
+            (control + "    text main.1", 4, "the new text in double quotes"),
             (window + "  on command 1\n    after bald\n      close main", 3, "milliseconds"),
             (window + "  on command 1\n    after 1", 3, "indented actions below this line"),
             (window + "  on command 1\n    close main\n      close main", 4, 'nothing below "close"'),
-            (window + "  on command 1\n    when main.1 offen\n      close main", 3, "selected and a number"),
+            (control + "    when main.1 offen\n      close main", 4, "selected and a number"),
             (window + '  on command 1\n    grow "C:\\x" -1', 3, "the bytes by which the file grows"),
             (window + "  hidden\n    hidden", 3, 'nothing below "hidden"'),
             ('file', 1, "the file's path"),
@@ -433,6 +435,53 @@ class MakrunTest(unittest.TestCase):
                 self.assertEqual(self.makrun(*arguments, self.macro("MSG=a"), status=66), [])
                 self.assertTrue(self.errors.startswith(f"makrun: {arguments[1]}:{line}: expected "), self.errors)
                 self.assertIn(expected, self.errors)
+
+    def test_a_target_that_is_not_there_is_a_mistake_with_its_line(self):
+        window = ('window main "TeRu"\n'
+                  '  control ThunderRT6Frame 61\n'
+                  '    control ThunderRT6Textbox 2\n'
+                  '  on command 1\n')
+        behind = '\ndialog later "Später"\n  control Edit 5\n'
+        target = "the name of a window of this file, or NAME.ID for a control of it, instead of"
+        reference = "{NAME.ID} or {NAME.ID/COLUMN} for what a window of this file shows, instead of"
+        for action, expected in [
+            ('text main.62 "x"', f'{target} "main.62"'),
+            ('text main.61.3 "x"', f'{target} "main.61.3"'),
+            ('text main.2.61 "x"', f'{target} "main.2.61"'),
+            ('text main.61. "x"', f'{target} "main.61."'),
+            ('select later.6 1', f'{target} "later.6"'),
+            ('when later.6 checked\n      close main', f'{target} "later.6"'),
+            ('after 10\n      check main.60', f'{target} "main.60"'),
+            ('text main.2 "{main.62}"', f'{reference} "{{main.62}}"'),
+            ('clipboard "a" "{later.6}"', f'{reference} "{{later.6}}"'),
+            ('write "C:\\{fehlt}.csv" "a"', f'{reference} "{{fehlt}}"'),
+            ('append "C:\\a.csv" "{main.2/x}"', f'{reference} "{{main.2/x}}"'),
+            ('grow "C:\\{main.2/}.csv" 1', f'{reference} "{{main.2/}}"'),
+        ]:
+            with self.subTest(action):
+                arguments = self.desktop(window + "    " + action + behind)
+                self.assertEqual(self.makrun(*arguments, self.macro("MSG=a"), status=66), [])
+                line = 6 if action.startswith("after") else 5
+                self.assertEqual(self.errors, f"makrun: {arguments[1]}:{line}: expected {expected}\n")
+        # Windows and controls that are described further down, or that open later, are there.
+        self.makrun(*self.desktop(window + '    text later.5 "{main.61.2} {later}"' + behind), self.macro("MSG=a"))
+
+    def test_a_direct_child_comes_before_a_deeper_control_of_its_number(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  control ThunderRT6Frame 61\n'
+            '    control ThunderRT6Frame 1\n'
+            '      control ThunderRT6Textbox 3 "tief"\n'
+            '      control ThunderRT6Textbox 2 "eins"\n'
+            '    control ThunderRT6Frame 2\n'
+            '      control ThunderRT6Textbox 2 "zwei"\n'
+            '    control ThunderRT6Textbox 3 "flach"\n'
+            '  on command 1\n'
+            '    write "C:\\t.txt" "{main.61.2.2}" "{main.2.2}" "{main.3}" "{main.61.1.3}"\n')
+        drive = self.folder / "drive"
+        drive.mkdir()
+        self.makrun(*arguments, "--drive", drive, self.macro("MENUCLICK=1,TeRu,1", "WAIT=1"))
+        self.assertEqual((drive / "t.txt").read_text().split(), ["zwei", "zwei", "flach", "tief"])
 
     def test_the_first_window_is_in_front(self):
         arguments = self.desktop('# Kommentar\n\nwindow one "Eins ""A"""\nwindow two "Zwei"\n')
@@ -598,8 +647,10 @@ class MakrunTest(unittest.TestCase):
             '    row "eins" "1"\n'
             '    row "zwei" "2"\n'
             '    on key 117\n'
-            '      text main.5 "{main.4/1}+{main.4/2}+{main.4/x}+{fehlt.4/1}."\n'
-            '  control ThunderRT6Textbox 5\n')
+            '      text main.5 "{main.4/1}+{main.4/2}+{nie.4/1}+{nie}."\n'
+            '  control ThunderRT6Textbox 5\n'
+            'dialog nie "Nie"\n'
+            '  control SysListView32 4\n')
         log = self.makrun(*arguments, self.macro(
             "DIM A", "SENDKEY2={F6},4,TeRu,SysListView32", "A=READTEXT(5,TeRu,1,ThunderRT6Textbox)",
             "SELECTLIST=4,TeRu,1", "SELECTLIST=4,TeRu,1", "SENDKEY2={F6},4,TeRu,SysListView32",

@@ -1,4 +1,4 @@
-"""Each macro of the demonstration leaves the same log in a rehearsal as under the program, pressed by its key."""
+"""Each macro of the demonstration leaves the same log and the same files in a rehearsal as under the program."""
 
 import difflib
 import pathlib
@@ -6,6 +6,7 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "e2e"))
@@ -17,6 +18,7 @@ from harness import (  # noqa: E402
     CODE_PAGE,
     COMPLETED,
     DESTINATION,
+    PROGRAM,
     ROOT,
     STARS,
     TITLE,
@@ -33,9 +35,8 @@ ASSETS, RECORD, CLIENTS, POSTINGS = "Anlagenbuchhaltung", "Stammdaten", "Mandant
 PAYMENTS = "TeRu Zahlungsverkehr [Stadtsparkasse 30060010 2005114 EUR]"
 MERLA = "MERLA 2100 - Schreinerei Grünbärtl & Töchter GmbH"
 
-# What is of the moment: handles of windows, the date, and the folder for temporary files.
+# What is of the moment: handles of windows, and the folder for temporary files.
 OF_THE_MOMENT = [
-    (r"^(Datum:).*", r"\1"),
     (r"^(MainWindow: )\d+$", r"\1?"),
     (r"^(Schaltfläche wurde gedrückt\. \()\d+( \d+\))$", r"\1?\2"),
     (r"^(Select Combo-> HWNDCTL: )\d+(Parent: )\d+$", r"\1?\2?"),
@@ -60,11 +61,35 @@ def comparable(log):
     return lines
 
 
+# Folders of the system on a drive C:.
+SYSTEM_FOLDERS = {"windows", "users", "Program Files", "ProgramData"}
+
+
+def tree(folder, prefix=""):
+    """What lies below a folder: the bytes of each file by its path, and None for each folder."""
+    paths = {prefix + str(path.relative_to(folder)): path for path in sorted(folder.rglob("*"))}
+    return {name: path.read_bytes() if path.is_file() else None for name, path in paths.items()}
+
+
+def left_by_run(drive, temporary_files):
+    """What a run leaves on a drive, without the programs, their logs, and what they have found there."""
+    left = {"TEMP": None, **tree(temporary_files, "TEMP/")}
+    for folder in drive.iterdir():
+        if folder.name not in SYSTEM_FOLDERS and folder != temporary_files:
+            left |= {folder.name: None, **tree(folder, folder.name + "/")}
+    found = {f"QUMA/{path.name}": path.read_bytes() for path in DEMO.iterdir() if path.is_file()}
+    of_programs = {"QUMA/" + name for name in (PROGRAM, "QUMAEXP.LOG", "teru.log")}
+    return {name: data for name, data in left.items() if name not in of_programs and found.get(name) != data}
+
+
 class RehearsalTest(EndToEndTest):
     maxDiff = None
 
     def setUp(self):
         super().setUp()
+        [self.temporary_files] = self.desktop.drive.glob("users/*/Temp")
+        shutil.rmtree(self.temporary_files)
+        self.temporary_files.mkdir()
         self.start_program()
         self.lines_before = len(self.log()) - 1
 
@@ -84,8 +109,8 @@ class RehearsalTest(EndToEndTest):
         self.assertIn(old, settings)
         self.lay("QUMAEXP.INI", settings.replace(old, new, 1))
 
-    def pressed(self, macro, caption, confirm=None):
-        """The lines of a run by the key."""
+    def compare(self, macro, caption, *answers, confirm=None):
+        """Runs a macro by the key, rehearses it with the same settings and clock, and compares what both leave."""
         shutil.copy(DEMO / macro, self.folder)
         if not (self.folder / "QUMAEXP.INI").exists():
             self.lay_settings()
@@ -93,27 +118,35 @@ class RehearsalTest(EndToEndTest):
         if confirm:
             confirm()
         self.wait_run_ended()
-        return self.log()[self.lines_before : -1]
+        pressed = self.log()[self.lines_before : -1]
+        self.assertEqual(pressed[-2:], [COMPLETED, STARS])
+        with tempfile.TemporaryDirectory() as drive:
+            rehearsed = self.rehearsed(macro, drive, self.clock_of(pressed), answers)
+            logs = comparable(pressed), comparable(rehearsed)
+            self.assertEqual("\n".join(difflib.unified_diff(*logs, "pressed", "rehearsed", lineterm="")), "")
+            drive = pathlib.Path(drive)
+            self.assertEqual(left_by_run(self.desktop.drive, self.temporary_files), left_by_run(drive, drive / "TEMP"))
 
-    def rehearsed(self, macro, *answers):
-        """The lines of the rehearsal, with the settings of the run."""
+    def clock_of(self, log):
+        """When the key was pressed, by the head of the run."""
+        [date] = [line for line in log if line.startswith("Datum:")]
+        day, month, year, time = re.fullmatch(r"Datum:(\d+)\.(\d+)\.(\d+) (.*)", date).groups()
+        return f"{year}-{month}-{day} {time}"
+
+    def rehearsed(self, macro, drive, clock, answers):
+        """The lines of the rehearsal."""
         desktop = (DEMO / "desktops" / macro).with_suffix(".desktop")
         command = [str(MAKRUN), "--press", "--desktop", str(desktop), "--ini", str(self.folder / "QUMAEXP.INI")]
+        command += ["--drive", drive, "--now", clock]
         for answer in answers:
             command += ["--answer", answer]
         done = subprocess.run([*command, str(DEMO / macro)], capture_output=True, timeout=300, check=False)
         self.assertEqual((done.returncode, done.stderr.decode()), (0, ""))
         return done.stdout.decode().split("\n")[:-1]
 
-    def assert_same(self, pressed, rehearsed):
-        self.assertEqual(pressed[-2:], [COMPLETED, STARS])
-        logs = comparable(pressed), comparable(rehearsed)
-        self.assertEqual("\n".join(difflib.unified_diff(*logs, "pressed", "rehearsed", lineterm="")), "")
-
     def test_the_export_of_the_books(self):
         self.start_teru("--tick", "20")
-        pressed = self.pressed("QUMAFIBU.MAK", CAPTION, lambda: self.answer(TITLE, "Return"))
-        self.assert_same(pressed, self.rehearsed("QUMAFIBU.MAK", "frmInputbox.cmdOK"))
+        self.compare("QUMAFIBU.MAK", CAPTION, "frmInputbox.cmdOK", confirm=lambda: self.answer(TITLE, "Return"))
 
     def test_the_export_of_the_assets(self):
         template = self.desktop.host_path("C:\\TeRu\\Import\\anl")
@@ -122,15 +155,15 @@ class RehearsalTest(EndToEndTest):
         self.open_in_teru(MENU_ASSETS, ASSETS)
         caption = CAPTION.replace("Finanzbuchhaltung", ASSETS)
         wait_until(lambda: self.probe.windows(caption), "the caption of the module")
-        self.assert_same(self.pressed("QUMAANL.MAK", caption), self.rehearsed("QUMAANL.MAK"))
+        self.compare("QUMAANL.MAK", caption)
 
     def test_the_clients_record(self):
         self.open_in_teru(MENU_CLIENT_RECORD, RECORD)
-        self.assert_same(self.pressed("QUMASTAMM.MAK", RECORD), self.rehearsed("QUMASTAMM.MAK"))
+        self.compare("QUMASTAMM.MAK", RECORD)
 
     def test_the_payments(self):
         self.open_in_teru(MENU_PAYMENTS, PAYMENTS)
-        self.assert_same(self.pressed("QUMAZVK.MAK", PAYMENTS), self.rehearsed("QUMAZVK.MAK"))
+        self.compare("QUMAZVK.MAK", PAYMENTS)
 
     def test_the_income_tax_of_the_marked_client(self):
         self.lay_settings("Veranlagungsjahr=2003,2004,2005", "Veranlagungsjahr=2004,2005")
@@ -141,16 +174,16 @@ class RehearsalTest(EndToEndTest):
             self.click_button(dialog, "zuletzt bearbeiteter Mandant")
             self.click_button(dialog, "OK")
 
-        pressed = self.pressed("QUMAEST.MAK", CLIENTS, confirm)
-        self.assert_same(pressed, self.rehearsed("QUMAEST.MAK", "frmInputEST.optCurrent"))
+        self.compare("QUMAEST.MAK", CLIENTS, "frmInputEST.optCurrent", confirm=confirm)
 
     def compare_assets_of_the_second_application(self, version):
         self.start_merla(version)
-        macro = f"MERLA{version}.MAK"
-        pressed = self.pressed(
-            macro, MERLA.replace("2100", version), lambda: test_merla.MerlaTest.choose_years_from(self, 0)
+        self.compare(
+            f"MERLA{version}.MAK",
+            MERLA.replace("2100", version),
+            "frmInputMerANL.lstViewJahr=01.01.2001",
+            confirm=lambda: test_merla.MerlaTest.choose_years_from(self, 0),
         )
-        self.assert_same(pressed, self.rehearsed(macro, "frmInputMerANL.lstViewJahr=01.01.2001"))
 
     def test_the_assets_of_the_second_application(self):
         self.compare_assets_of_the_second_application("2100")
@@ -178,10 +211,7 @@ class RehearsalTest(EndToEndTest):
             dialog = self.dialog("Bitte wählen Sie die Mandanten und den Zeitraum.")
             self.click_button(dialog, "OK")
 
-        self.assert_same(
-            self.pressed("MERLAFIB2100.MAK", POSTINGS, confirm),
-            self.rehearsed("MERLAFIB2100.MAK", "frmInputMerFib.cmdOK"),
-        )
+        self.compare("MERLAFIB2100.MAK", POSTINGS, "frmInputMerFib.cmdOK", confirm=confirm)
 
 
 if __name__ == "__main__":

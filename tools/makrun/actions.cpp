@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <map>
-#include <optional>
 
 #include "files.h"
 #include "platform/simulated/desktop.h"
@@ -13,69 +12,9 @@ namespace {
 
 namespace simulated = platform::simulated;
 
-std::optional<Target> ParseTarget(const std::string& text) {
-  const auto pieces = runtime::Split(text, '.');
-  if (pieces.empty()) return std::nullopt;
-  Target target{pieces[0], {}};
-  for (std::size_t i = 1; i < pieces.size(); ++i) {
-    std::int32_t id = 0;
-    const char* const last = pieces[i].data() + pieces[i].size();
-    const auto [end, error] = std::from_chars(pieces[i].data(), last, id);
-    if (error != std::errc() || end != last) return std::nullopt;
-    target.ids.push_back(id);
-  }
-  return target;
-}
-
-std::string Joined(const std::vector<std::string>& parts, const std::string& separator) {
-  std::string text;
-  for (std::size_t i = 0; i < parts.size(); ++i) text += (i == 0 ? "" : separator) + parts[i];
-  return text;
-}
-
-// What a control shows; of a list, its rows: cells parted by tabs, rows by line ends.
-std::string Shown(const simulated::Window& window) {
-  std::string text = window.text;
-  for (const simulated::ListRow& row : window.rows) text += (text.empty() ? "" : "\r\n") + Joined(row.columns, "\t");
-  return text;
-}
-
-// The cell of the first selected row, by its column from 0; empty without one.
-std::string SelectedCell(const simulated::Window& list, std::size_t column) {
-  for (const simulated::ListRow& row : list.rows)
-    if ((row.state & simulated::LVIS_SELECTED) != 0) return column < row.columns.size() ? row.columns[column] : "";
-  return "";
-}
-
-// What "NAME.ID" shows, or of "NAME.ID/COLUMN" that cell of the selected row; empty when the window is not open.
-std::string Value(const std::string& reference) {
-  const auto slash = reference.find('/');
-  const auto target = ParseTarget(reference.substr(0, slash));
-  const std::int32_t window = target ? scene.Find(*target) : 0;
-  if (window == 0) return "";
-  if (slash == std::string::npos) return Shown(simulated::At(window));
-  std::size_t column = 0;
-  const std::string number = reference.substr(slash + 1);
-  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), column);
-  return error == std::errc() && *end == '\0' ? SelectedCell(simulated::At(window), column) : "";
-}
-
-// The text with each reference in braces replaced by its value.
-std::string Filled(const std::string& text) {
-  std::string filled;
-  std::size_t from = 0;
-  for (auto open = text.find('{'); open != std::string::npos; open = text.find('{', from)) {
-    const auto close = text.find('}', open);
-    if (close == std::string::npos) break;
-    filled += text.substr(from, open - from) + Value(text.substr(open + 1, close - open - 1));
-    from = close + 1;
-  }
-  return filled + text.substr(from);
-}
-
 // What is done to a window that is not open has no effect.
-Action OnWindow(const Target& target, std::function<void(simulated::Window&)> act) {
-  return [target, act = std::move(act)] {
+Action OnWindow(const WindowPlan& target, std::function<void(simulated::Window&)> act) {
+  return [&target, act = std::move(act)] {
     if (const std::int32_t window = scene.Find(target)) act(simulated::At(window));
   };
 }
@@ -147,15 +86,15 @@ Action ActionReader::Hide(Arguments& arguments) const {
 }
 
 Action ActionReader::SetText(Arguments& arguments) const {
-  const Target target = ReadTarget(arguments);
+  const WindowPlan& target = ReadTarget(arguments);
   const std::string expected = "the new text in double quotes";
   std::string text = arguments.Text(expected);
   for (const std::string& line : arguments.Texts(expected)) text += "\r\n" + line;
-  return OnWindow(target, [=](simulated::Window& window) { window.text = Filled(text); });
+  return OnWindow(target, [filled = Filled(arguments, text)](simulated::Window& window) { window.text = filled.Now(); });
 }
 
 Action ActionReader::SetItems(Arguments& arguments) const {
-  const Target target = ReadTarget(arguments);
+  const WindowPlan& target = ReadTarget(arguments);
   const auto items = arguments.Texts("the entries in double quotes");
   return OnWindow(target, [=](simulated::Window& window) {
     window.entries = items;
@@ -164,7 +103,7 @@ Action ActionReader::SetItems(Arguments& arguments) const {
 }
 
 Action ActionReader::Select(Arguments& arguments) const {
-  const Target target = ReadTarget(arguments);
+  const WindowPlan& target = ReadTarget(arguments);
   const std::int32_t index = arguments.Number("the number of an entry, from 0");
   return OnWindow(target, [=](simulated::Window& window) { SelectEntry(window, index); });
 }
@@ -178,7 +117,7 @@ Action ActionReader::Uncheck(Arguments& arguments) const {
 }
 
 Action ActionReader::AddRow(Arguments& arguments) const {
-  const Target target = ReadTarget(arguments);
+  const WindowPlan& target = ReadTarget(arguments);
   const auto cells = arguments.Texts("the row's cells in double quotes");
   return OnWindow(target, [=](simulated::Window& window) { window.rows.push_back({cells, 0}); });
 }
@@ -197,30 +136,30 @@ Action ActionReader::SelectRows(Arguments& arguments) const {
 }
 
 Action ActionReader::Clipboard(Arguments& arguments) const {
-  const std::string text = LinesText(arguments.Texts("the lines in double quotes"));
-  return [=] { simulated::Clipboard() = Filled(text); };
+  const FilledText text = Filled(arguments, LinesText(arguments.Texts("the lines in double quotes")));
+  return [=] { simulated::Clipboard() = text.Now(); };
 }
 
 Action ActionReader::Write(Arguments& arguments) const {
-  const std::string path = arguments.Text("the file's path in double quotes");
-  const std::string text = LinesText(arguments.Texts("the file's lines in double quotes"));
-  return [=] { PutSimulatedFile(Filled(path), Filled(text)); };
+  const FilledText path = Filled(arguments, arguments.Text("the file's path in double quotes"));
+  const FilledText text = Filled(arguments, LinesText(arguments.Texts("the file's lines in double quotes")));
+  return [=] { PutSimulatedFile(path.Now(), text.Now()); };
 }
 
 Action ActionReader::Append(Arguments& arguments) const {
-  const std::string path = arguments.Text("the file's path in double quotes");
-  const std::string text = LinesText(arguments.Texts("the file's lines in double quotes"));
+  const FilledText path = Filled(arguments, arguments.Text("the file's path in double quotes"));
+  const FilledText text = Filled(arguments, LinesText(arguments.Texts("the file's lines in double quotes")));
   return [=] {
-    const std::string file = Filled(path);
-    PutSimulatedFile(file, simulated::GetFile(file) + Filled(text));
+    const std::string file = path.Now();
+    PutSimulatedFile(file, simulated::GetFile(file) + text.Now());
   };
 }
 
 Action ActionReader::Grow(Arguments& arguments) const {
-  const std::string path = arguments.Text("the file's path in double quotes");
+  const FilledText path = Filled(arguments, arguments.Text("the file's path in double quotes"));
   const std::int32_t size = arguments.Number("the bytes by which the file grows", 0);
   return [=] {
-    const std::string file = Filled(path);
+    const std::string file = path.Now();
     PutSimulatedFile(file, simulated::GetFile(file) + std::string(static_cast<std::size_t>(size), 'x'));
   };
 }
@@ -231,7 +170,7 @@ Action ActionReader::ReadDelay(const Statement& statement, Arguments& arguments)
 }
 
 Action ActionReader::ReadCondition(const Statement& statement, Arguments& arguments) const {
-  const Target target = ReadTarget(arguments);
+  const WindowPlan& target = ReadTarget(arguments);
   const std::string expected = "selected and a number, checked, unchecked, or text and a text";
   const std::string& state = arguments.Name(expected);
   std::function<bool(const simulated::Window&)> holds;
@@ -254,16 +193,38 @@ Action ActionReader::ReadCondition(const Statement& statement, Arguments& argume
 std::string ActionReader::KnownName(Arguments& arguments) const {
   const std::string expected = "the name of a window of this file";
   const std::string& name = arguments.Name(expected);
-  if (!names_.contains(name)) arguments.Mistake(expected + " instead of \"" + name + "\"");
+  if (!plans_.contains(name)) arguments.Mistake(expected + " instead of \"" + name + "\"");
   return name;
 }
 
-Target ActionReader::ReadTarget(Arguments& arguments) const {
+const WindowPlan& ActionReader::ReadTarget(Arguments& arguments) const {
   const std::string expected = "the name of a window of this file, or NAME.ID for a control of it";
   const std::string& text = arguments.Name(expected);
-  const auto target = ParseTarget(text);
-  if (!target || !names_.contains(target->window)) arguments.Mistake(expected + ", instead of \"" + text + "\"");
+  const WindowPlan* const target = Resolve(text);
+  if (target == nullptr) arguments.Mistake(expected + ", instead of \"" + text + "\"");
   return *target;
+}
+
+const WindowPlan* ActionReader::Resolve(const std::string& target) const {
+  const auto pieces = runtime::Split(target, '.');
+  const auto window = pieces.empty() ? plans_.end() : plans_.find(pieces[0]);
+  const WindowPlan* found = window == plans_.end() ? nullptr : &window->second;
+  for (std::size_t i = 1; i < pieces.size() && found != nullptr; ++i) {
+    std::int32_t id = 0;
+    const char* const last = pieces[i].data() + pieces[i].size();
+    const auto [end, error] = std::from_chars(pieces[i].data(), last, id);
+    found = error == std::errc() && end == last ? FindControl(*found, id) : nullptr;
+  }
+  return found;
+}
+
+FilledText ActionReader::Filled(const Arguments& arguments, const std::string& text) const {
+  try {
+    return {text, [this](const std::string& target) { return Resolve(target); }};
+  } catch (const FilledText::WrongReference& wrong) {
+    arguments.Mistake("{NAME.ID} or {NAME.ID/COLUMN} for what a window of this file shows, instead of \"{" +
+                      wrong.text + "}\"");
+  }
 }
 
 }  // namespace makrun

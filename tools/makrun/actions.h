@@ -1,12 +1,13 @@
 // What the windows of a desktop file do when something happens to them.
 #pragma once
 
-#include <set>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "arguments.h"
 #include "desktop_text.h"
+#include "filled_text.h"
 #include "scene.h"
 
 namespace makrun {
@@ -17,8 +18,8 @@ std::string LinesText(const std::vector<std::string>& lines);
 // Makes actions of the statements below an event. Faults: FileError with file, line and what was expected.
 class ActionReader {
  public:
-  // Both outlive this object: the file, and the names of all its windows.
-  ActionReader(const std::string& path, const std::set<std::string>& names) : path_(path), names_(names) {}
+  // Both outlive this object and the actions: the file, and all its windows with their controls.
+  ActionReader(const std::string& path, const std::map<std::string, WindowPlan>& plans) : path_(path), plans_(plans) {}
 
   // The actions below a statement; there must be one.
   std::vector<Action> Read(const Statement& statement) const;
@@ -44,11 +45,13 @@ class ActionReader {
   Action Append(Arguments& arguments) const;
   Action Grow(Arguments& arguments) const;
   std::string KnownName(Arguments& arguments) const;
-  // "NAME" or "NAME.ID", with the ids of frames in between.
-  Target ReadTarget(Arguments& arguments) const;
+  const WindowPlan& ReadTarget(Arguments& arguments) const;
+  // The window or control of "NAME" or "NAME.ID", with the ids of frames in between; null where it is not there.
+  const WindowPlan* Resolve(const std::string& target) const;
+  FilledText Filled(const Arguments& arguments, const std::string& text) const;
 
   const std::string& path_;
-  const std::set<std::string>& names_;
+  const std::map<std::string, WindowPlan>& plans_;
 };
 
 }  // namespace makrun

@@ -1,7 +1,8 @@
 #include "desktop_file.h"
 
 #include <map>
-#include <set>
+#include <utility>
+#include <vector>
 
 #include "actions.h"
 #include "arguments.h"
@@ -22,27 +23,18 @@ using simulated::Message;
 
 class Loader {
  public:
-  explicit Loader(const std::string& path) : path_(path), actions_(path, names_) {}
+  explicit Loader(const std::string& path) : path_(path), actions_(path, scene.plans) {}
 
   void Load() {
     scene = {};
     const std::vector<Statement> statements = ReadStatements(path_);
-    for (const Statement& statement : statements) CollectName(statement);
     for (const Statement& statement : statements) ReadTopLevel(statement);
+    for (const auto& [statement, plan] : references_) ReadReference(*statement, *plan);
     // The file lists the windows from the top down.
     for (auto name = open_.rbegin(); name != open_.rend(); ++name) scene.Open(*name);
   }
 
  private:
-  // Names are known before anything refers to them.
-  void CollectName(const Statement& statement) {
-    const std::string& word = statement.words[0].text;
-    if (word != "window" && word != "dialog" && word != "box") return;
-    Arguments arguments(path_, statement);
-    if (!names_.insert(arguments.Name("a name and a text behind " + word)).second)
-      arguments.Mistake("a name that no other window has");
-  }
-
   // What stands on the drives from the start.
   template <class Operation>
   static void PutStanding(const Arguments& arguments, Operation&& operation) {
@@ -64,7 +56,7 @@ class Loader {
     const std::string& word = statement.words[0].text;
     Arguments arguments(path_, statement);
     if (word == "window" || word == "dialog") {
-      const std::string name = arguments.Name("a name");
+      const std::string name = ReadName(word, arguments);
       WindowPlan& plan = scene.plans[name];
       plan.window.className = word == "window" ? "ThunderRT6FormDC" : "#32770";
       plan.window.text = arguments.Text("the window's title in double quotes");
@@ -77,7 +69,7 @@ class Loader {
       ReadBox(statement, arguments);
       return;
     }
-    if (!statement.inner.empty()) RaiseMistake(path_, statement.inner[0].line, "nothing below \"" + word + "\"");
+    ExpectNothingBelow(statement);
     if (word == "file") {
       const std::string& path = arguments.Text("the file's path in double quotes");
       PutStanding(arguments, [&, text = LinesText(arguments.Texts("the file's lines in double quotes"))] {
@@ -99,25 +91,31 @@ class Loader {
     arguments.End();
   }
 
+  // The name of a new window.
+  static const std::string& ReadName(const std::string& word, Arguments& arguments) {
+    const std::string& name = arguments.Name("a name and a text behind " + word);
+    if (scene.plans.contains(name)) arguments.Mistake("a name that no other window has");
+    return name;
+  }
+
   // Title, text and buttons; a command closes it.
   void ReadBox(const Statement& statement, Arguments& arguments) {
-    WindowPlan& plan = scene.plans[arguments.Name("a name")];
+    WindowPlan& plan = scene.plans[ReadName("box", arguments)];
     plan.window.className = "#32770";
     plan.window.text = arguments.Text("the box's title in double quotes");
     plan.closesOnCommand = true;
-    WindowPlan text;
+    WindowPlan& text = plan.controls.emplace_back();
     text.window.className = "Static";
     text.window.text = arguments.Text("the box's text in double quotes");
     text.window.id = 65535;
-    plan.controls.push_back(text);
     const std::map<std::string, std::int32_t> ids = {{"OK", 1}, {"Abbrechen", 2}, {"Ja", 6}, {"Nein", 7}};
     for (const std::string& caption : arguments.Texts("the captions of the buttons in double quotes")) {
       const auto id = ids.find(caption);
-      WindowPlan button;
+      const std::int32_t other = 100 + static_cast<std::int32_t>(plan.controls.size());
+      WindowPlan& button = plan.controls.emplace_back();
       button.window.className = "Button";
       button.window.text = caption;
-      button.window.id = id == ids.end() ? 100 + static_cast<std::int32_t>(plan.controls.size()) : id->second;
-      plan.controls.push_back(button);
+      button.window.id = id == ids.end() ? other : id->second;
     }
     ReadWindow(statement, plan, true);
   }
@@ -129,24 +127,28 @@ class Loader {
       const std::string& word = inner.words[0].text;
       if (word == "control") {
         ReadControl(inner, arguments, plan);
-      } else if (word == "on") {
-        ReadReaction(inner, arguments, plan);
+      } else if (word == "on" || (word == "folder-to" && topLevel)) {
+        references_.emplace_back(&inner, &plan);
       } else {
-        if (!inner.inner.empty()) RaiseMistake(path_, inner.inner[0].line, "nothing below \"" + word + "\"");
         ReadProperty(word, arguments, plan, topLevel);
         arguments.End();
+        ExpectNothingBelow(inner);
       }
     }
   }
 
+  void ExpectNothingBelow(const Statement& statement) const {
+    if (!statement.inner.empty())
+      RaiseMistake(path_, statement.inner[0].line, "nothing below \"" + statement.words[0].text + "\"");
+  }
+
   void ReadControl(const Statement& statement, Arguments& arguments, WindowPlan& parent) {
-    WindowPlan plan;
+    WindowPlan& plan = parent.controls.emplace_back();
     plan.window.className = arguments.Name("a class, an id and a text");
     plan.window.id = arguments.Number("the control's id, a number");
     if (arguments.More()) plan.window.text = arguments.Text("the control's text in double quotes");
     arguments.End();
     ReadWindow(statement, plan, false);
-    parent.controls.push_back(std::move(plan));
   }
 
   void ReadProperty(const std::string& word, Arguments& arguments, WindowPlan& plan, bool topLevel) {
@@ -154,7 +156,6 @@ class Loader {
     if (word == "class" && topLevel) window.className = arguments.Name("a class");
     else if (word == "id" && topLevel) window.id = arguments.Number("an id, a number");
     else if (word == "process" && topLevel) window.process = ProcessOf(arguments.Name("the name of a process"));
-    else if (word == "folder-to" && topLevel) plan.folderControl = arguments.Number("the id of a child");
     else if (word == "at") ReadPlace(arguments, window.rectangle);
     else if (word == "hidden") window.visible = false;
     else if (word == "disabled") window.enabled = false;
@@ -195,6 +196,21 @@ class Loader {
     return processes_.try_emplace(name, kFirst + static_cast<std::uint32_t>(processes_.size())).first->second;
   }
 
+  // What names other windows and controls is read when all are known.
+  void ReadReference(const Statement& statement, WindowPlan& plan) {
+    Arguments arguments(path_, statement);
+    if (statement.words[0].text == "on") ReadReaction(statement, arguments, plan);
+    else
+      ReadFolderControl(statement, arguments, plan);
+  }
+
+  void ReadFolderControl(const Statement& statement, Arguments& arguments, WindowPlan& plan) {
+    plan.folderControl = FindControl(plan, arguments.Number("the id of a child"));
+    if (plan.folderControl == nullptr) arguments.Mistake("the id of a child");
+    arguments.End();
+    ExpectNothingBelow(statement);
+  }
+
   void ReadReaction(const Statement& statement, Arguments& arguments, WindowPlan& plan) {
     const std::string expected = "command, notification, key, character, text or close";
     const std::string& event = arguments.Name(expected);
@@ -223,8 +239,8 @@ class Loader {
   }
 
   const std::string& path_;
-  std::set<std::string> names_;
   ActionReader actions_;
+  std::vector<std::pair<const Statement*, WindowPlan*>> references_;
   std::vector<std::string> open_;
   std::map<std::string, std::uint32_t> processes_;
 };

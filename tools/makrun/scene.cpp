@@ -1,5 +1,6 @@
 #include "scene.h"
 
+#include <deque>
 #include <optional>
 
 #include "platform/messages.h"
@@ -18,24 +19,15 @@ std::string PathAt(std::uint32_t process, std::int32_t address) {
   return path;
 }
 
-// The first descendant with this id.
-std::int32_t FindControl(std::int32_t window, std::int32_t id) {
-  for (const std::int32_t child : simulated::At(window).children) {
-    if (simulated::At(child).id == id) return child;
-    if (const std::int32_t found = FindControl(child, id)) return found;
-  }
-  return 0;
-}
-
-void TakeFolder(std::int32_t browser, std::int32_t control, const Message& message) {
-  const std::int32_t shown = FindControl(browser, control);
-  if (shown != 0) simulated::At(shown).text = PathAt(simulated::At(browser).process, message.lParam);
+void TakeFolder(std::int32_t browser, const WindowPlan& control, const Message& message) {
+  if (const std::int32_t shown = scene.Find(control))
+    simulated::At(shown).text = PathAt(simulated::At(browser).process, message.lParam);
 }
 
 // What a planned window does with a message before its class sees it. The plan outlives the window.
 std::optional<std::int32_t> React(const WindowPlan& plan, std::int32_t window, const Message& message) {
-  if (message.number == platform::BFFM_SETSELECTIONA && plan.folderControl != 0)
-    TakeFolder(window, plan.folderControl, message);
+  if (message.number == platform::BFFM_SETSELECTIONA && plan.folderControl != nullptr)
+    TakeFolder(window, *plan.folderControl, message);
   for (const Reaction& reaction : plan.reactions) {
     if (!reaction.wanted(message)) continue;
     for (const Action& action : reaction.actions) action();
@@ -53,6 +45,17 @@ std::optional<std::int32_t> React(const WindowPlan& plan, std::int32_t window, c
 
 Scene scene;
 
+const WindowPlan* FindControl(const WindowPlan& parent, std::int32_t id) {
+  std::deque<const WindowPlan*> waiting = {&parent};
+  for (; !waiting.empty(); waiting.pop_front()) {
+    for (const WindowPlan& control : waiting.front()->controls) {
+      if (control.window.id == id) return &control;
+      waiting.push_back(&control);
+    }
+  }
+  return nullptr;
+}
+
 void SelectEntry(simulated::Window& combo, std::int32_t index) {
   const bool has = index >= 0 && static_cast<std::size_t>(index) < combo.entries.size();
   combo.selection = has ? index : -1;
@@ -63,29 +66,24 @@ std::int32_t Scene::Make(const WindowPlan& plan, std::int32_t parent) {
   simulated::Window window = plan.window;
   window.parent = parent;
   if (window.selection >= 0) SelectEntry(window, window.selection);
-  const std::int32_t handle = simulated::AddWindow(window);
+  const std::int32_t handle = handles_[&plan] = simulated::AddWindow(window);
   simulated::At(handle).procedure = [&plan, handle](const Message& message) { return React(plan, handle, message); };
   for (const WindowPlan& control : plan.controls) Make(control, handle);
   return handle;
 }
 
 void Scene::Open(const std::string& name) {
-  std::int32_t window = Find({name, {}});
-  if (window == 0) window = handles_[name] = Make(plans.at(name), 0);
+  const WindowPlan& plan = plans.at(name);
+  std::int32_t window = Find(plan);
+  if (window == 0) window = Make(plan, 0);
   if (simulated::At(window).visible) simulated::Activate(window);
 }
 
-void Scene::Close(const std::string& name) { simulated::DestroyWindow(Find({name, {}})); }
+void Scene::Close(const std::string& name) { simulated::DestroyWindow(Find(plans.at(name))); }
 
-std::int32_t Scene::Find(const Target& target) const {
-  const auto handle = handles_.find(target.window);
-  if (handle == handles_.end() || !simulated::Exists(handle->second)) return 0;
-  std::int32_t window = handle->second;
-  for (const std::int32_t id : target.ids) {
-    window = FindControl(window, id);
-    if (window == 0) return 0;
-  }
-  return window;
+std::int32_t Scene::Find(const WindowPlan& plan) const {
+  const auto handle = handles_.find(&plan);
+  return handle != handles_.end() && simulated::Exists(handle->second) ? handle->second : 0;
 }
 
 }  // namespace makrun

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <list>
 #include <map>
 #include <string>
 #include <vector>
@@ -18,22 +19,21 @@ struct Reaction {
   std::vector<Action> actions;
 };
 
-// A window or control as the file describes it.
+// A window or control as the file describes it. It stays where it is once it is part of the scene.
 struct WindowPlan {
   platform::simulated::Window window;
   std::vector<Reaction> reactions;
-  std::vector<WindowPlan> controls;
+  std::list<WindowPlan> controls;
   bool refusesText = false;        // WM_SETTEXT has no effect and answers 0
   bool staysOnClose = false;       // WM_CLOSE does what the file says and nothing else
-  std::int32_t folderControl = 0;  // a folder browser: the path that BFFM_SETSELECTIONA brings goes to this child
   bool closesOnCommand = false;    // a message box: any command closes it, after the reactions
+  // A folder browser: the path that BFFM_SETSELECTIONA brings is shown by this child.
+  const WindowPlan* folderControl = nullptr;
 };
 
-// A window by its name, or a control below it by its id and those of its parents that are named.
-struct Target {
-  std::string window;
-  std::vector<std::int32_t> ids;
-};
+// The control with this id below a window or control: direct children come first, then deeper ones level by level; null
+// where there is none.
+const WindowPlan* FindControl(const WindowPlan& parent, std::int32_t id);
 
 // Selects an entry of a combo box, which then shows it; -1 for none.
 void SelectEntry(platform::simulated::Window& combo, std::int32_t index);
@@ -46,13 +46,13 @@ class Scene {
   void Open(const std::string& name);
   void Close(const std::string& name);
 
-  // The window of a target; 0 when it is not open.
-  std::int32_t Find(const Target& target) const;
+  // The window or control that was made by a plan last; 0 when it is not there.
+  std::int32_t Find(const WindowPlan& plan) const;
 
  private:
   std::int32_t Make(const WindowPlan& plan, std::int32_t parent);
 
-  std::map<std::string, std::int32_t> handles_;
+  std::map<const WindowPlan*, std::int32_t> handles_;
 };
 
 // The windows of the desktop file at hand.
