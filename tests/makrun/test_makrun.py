@@ -378,7 +378,7 @@ class MakrunTest(unittest.TestCase):
             ("window main TeRu", 1, "the window's title in double quotes"),
             ('window main "a" "b"', 1, 'the end of the line instead of "b"'),
             (window + window, 2, "a name that no other window has"),
-            ("fenster", 1, "window, dialog, box, file, folder, registry or environment"),
+            ("fenster", 1, "window, dialog, box, file, folder, registry, environment, missing-program, refuses-blockinput or after"),
             (window + "  farbe rot", 2, "a property of the window"),
             (window + "  at 1 2 3", 2, "left, top, width and height"),
             (window + "  at 1 2 3 x", 2, "left, top, width and height"),
@@ -429,6 +429,28 @@ class MakrunTest(unittest.TestCase):
             ('environment "a"', 1, "the variable's text"),
             ('box hint "a"', 1, "the box's text"),
             ('box hint "a" "b" OK', 1, "the captions of the buttons"),
+            ('box hint "a" "b"\n  closes-after', 2, "milliseconds"),
+            ('box hint "a" "b"\n  closes-after -1', 2, "milliseconds"),
+            ('box hint "a" "b"\n  closes-after 1 2', 2, 'the end of the line instead of "2"'),
+            (window + "  closes-after 1", 2, "a property of the window"),
+            ('missing-program', 1, "the command that starts no program"),
+            ('missing-program fehlt.exe', 1, "the command that starts no program"),
+            ('missing-program "a.exe" "b.exe"', 1, 'the end of the line instead of "b.exe"'),
+            ('refuses-blockinput TRUE', 1, 'the end of the line instead of "TRUE"'),
+            ('refuses-blockinput\n  hidden', 2, 'nothing below "refuses-blockinput"'),
+            (window + 'after\n  close main', 2, "milliseconds"),
+            (window + 'after bald\n  close main', 2, "milliseconds"),
+            (window + 'after 10 20\n  close main', 2, 'the end of the line instead of "20"'),
+            (window + 'after 10', 2, "indented actions below this line"),
+            (window + 'after 10\n  close fehlt', 3, "the name of a window of this file, or NAME.ID"),
+            (window + '  on command 1\n    copy', 3, "the name of a file"),
+            (window + '  on command 1\n    copy "fehlt.csv" "C:\\a.csv"', 3, "the name of a file"),
+            (window + '  on command 1\n    copy "test.desktop"', 3, "the new file's path"),
+            (window + '  on command 1\n    copy "test.desktop" "C:\\a" 1000', 3, "the bytes that are copied, of "),
+            (window + '  on command 1\n    copy "test.desktop" "C:\\a" -1', 3, "the bytes that are copied, of "),
+            (window + '  on command 1\n    copy "test.desktop" "C:\\{a}"', 3, "{NAME.ID} or {NAME.ID/COLUMN}"),
+            (control + '    when main.1 text\n      close main', 4, "a text in double quotes"),
+            (control + '    when main.1 text "a" b\n      close main', 4, "another text in double quotes"),
         ]:
             with self.subTest(text=text):
                 arguments = self.desktop(text)
@@ -701,6 +723,107 @@ class MakrunTest(unittest.TestCase):
         arguments = self.desktop('window main "TeRu"\n  on command 7\n    write "Q:\\Größe.csv" "a"\n')
         self.makrun(*arguments, self.macro("MENUCLICK=7,TeRu,1", "WAIT=10"), status=66)
         self.assertIn("Q:\\Größe.csv cannot be made", self.errors)
+
+    def kept_drive(self):
+        drive = self.folder / "drive"
+        drive.mkdir()
+        return drive
+
+    def test_a_file_beside_the_desktop_file_is_copied_and_can_grow(self):
+        (self.folder / "Vorlage").mkdir()
+        self.file("Vorlage/Größe.csv", "1000;Kasse\r\n1200;Bänke\r\n")
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  on command 1\n'
+            '    copy "Vorlage/Größe.csv" "C:\\{main}\\Größe.csv" 4\n'
+            '    after 2500\n'
+            '      copy "Vorlage/Größe.csv" "C:\\{main}\\Größe.csv"\n')
+        drive = self.kept_drive()
+        log = self.makrun(*arguments, "--drive", drive, self.macro("MENUCLICK=1,TeRu,1", "WAITFORFILE=C:\\TeRu\\Größe.csv"))
+        sizes = [line for line in log if line.startswith("Datei wird eingelesen")]
+        self.assertEqual(list(dict.fromkeys(sizes)), ["Datei wird eingelesen (4) ", "Datei wird eingelesen (24) "])
+        self.assertEqual((drive / "TeRu" / "Größe.csv").read_bytes(), b"1000;Kasse\r\n1200;B\xe4nke\r\n")
+
+    def test_a_condition_holds_for_one_of_its_texts(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  control ThunderRT6Textbox 5\n'
+            '    on text\n'
+            '      when main.5 text "alt" "neu"\n'
+            '        append "C:\\t.txt" "{main.5}"\n'
+            '  on command 1\n'
+            '    when main.5 text "alt" "neu"\n'
+            '      append "C:\\t.txt" "{main.5}"\n')
+        drive = self.kept_drive()
+        lines = []
+        for text in ("neu", "anders", "alt"):
+            lines += [f"SETTEXT={text},5,TeRu,1,ThunderRT6Textbox", "MENUCLICK=1,TeRu,1", "WAIT=1"]
+        self.makrun(*arguments, "--drive", drive, self.macro(*lines))
+        self.assertEqual((drive / "t.txt").read_text().split(), ["neu", "neu", "alt"])
+
+    def test_a_program_that_cannot_be_started_fails_its_verb(self):
+        arguments = self.desktop('window main "TeRu"\nmissing-program "C:\\Weg\\größe.exe"\n')
+        self.assertEqual(self.makrun(*arguments, self.macro("EXEC=C:\\Weg\\größe.exe"), status=1),
+                         ["Programm kann nicht ausgeführt werden: C:\\Weg\\größe.exe"])
+        self.assertEqual(self.makrun(*arguments, self.macro("EXEC=C:\\Weg\\da.exe"))[0],
+                         "Programm wird ausgeführt: C:\\Weg\\da.exe")
+
+    def test_a_refused_blockinput_fails_its_verb(self):
+        macro = self.macro("BLOCKINPUT=TRUE", "MSG=gesperrt")
+        self.assertEqual(self.makrun(*self.desktop('window main "TeRu"\n'), macro), ["MSG: gesperrt", *COMPLETED])
+        arguments = self.desktop('window main "TeRu"\nrefuses-blockinput\n')
+        self.assertEqual(self.makrun(*arguments, macro, status=1), [""])  # it fails without a text
+
+    def test_a_box_closes_so_long_after_its_first_answer(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  on command 7\n'
+            '    open question\n'
+            'box question "Frage" "Weiter?" "OK"\n'
+            '  closes-after 1500\n'
+            '  on command 1\n'
+            '    append "C:\\t.txt" "OK"\n')
+        drive = self.kept_drive()
+        look = ["IF CONFIRMDIALOG=Frage,Weiter", "MSG=da", "ELSE", "MSG=weg", "ENDIF"]
+        log = self.makrun(*arguments, "--drive", drive, self.macro(
+            "MENUCLICK=7,TeRu,1", "WAIT=10", *look, "WAIT=1400", *look, "WAIT=200", *look,
+            # It can come up, and be answered, again.
+            "MENUCLICK=7,TeRu,1", "WAIT=10", *look, "WAIT=1600", *look))
+        self.assertEqual([line for line in log if line.startswith("MSG")],
+                         ["MSG: da", "MSG: da", "MSG: weg", "MSG: da", "MSG: weg"])
+        self.assertEqual((drive / "t.txt").read_text().split(), ["OK", "OK"])
+
+    def test_the_desktop_changes_by_itself(self):
+        arguments = self.desktop(
+            'window main "TeRu"\n'
+            '  control SysListView32 4\n'
+            '    row "eins"\n'
+            '  control ThunderRT6Textbox 5 "alt"\n'
+            '  control ThunderRT6Frame 6\n'
+            '    control ThunderRT6Textbox 7 "im Rahmen"\n'
+            '  control ThunderRT6Textbox 7 "daneben"\n'
+            'window notice "Hinweis"\n'
+            'after 3000\n'
+            '  open notice\n'
+            '  row main.4 "zwei"\n'
+            '  text main.5 "neu"\n'
+            '  after 6000\n'
+            '    close main.7\n'
+            '    text main.7 "ohne Wirkung"\n'
+            'after 15000\n'
+            '  close main.6\n'
+            '  close notice\n')
+        look = ["IF ACTIVEWINDOW=Hinweis,TRUE", "MSG=Hinweis vorn", "ENDIF",
+                "IF READLISTITEM=zwei,4,TeRu,1", "MSG=zwei Zeilen", "ENDIF",
+                "A=READTEXT(5,TeRu,1,ThunderRT6Textbox)", "B=READTEXT(7,TeRu,1,ThunderRT6Textbox)", "MSG=-"]
+        log = self.makrun(*arguments, "--resume", 9, self.macro(
+            "DIM A", "DIM B", *look, "WAIT=5000", *look, "WAIT=5000", *look, "WAIT=5000", *look))
+        self.assertEqual([line for line in log[:-2] if not line.startswith("Der Wert")], [
+            "ReadText: alt", "ReadText: daneben", "MSG: -",
+            "MSG: Hinweis vorn", "MSG: zwei Zeilen", "ReadText: neu", "ReadText: daneben", "MSG: -",
+            # Now the one in the frame is the only one of its number.
+            "MSG: Hinweis vorn", "MSG: zwei Zeilen", "ReadText: neu", "ReadText: im Rahmen", "MSG: -",
+            "MSG: zwei Zeilen", "ReadText: neu", "ReadText konnte das Control nicht finden", "<Cancel>", "MSG: -"])
 
     # --- the documented example
 

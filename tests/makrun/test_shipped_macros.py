@@ -1,5 +1,6 @@
 """Each macro of the demonstration, rehearsed to its end on the desktop that its desktop file describes."""
 
+import configparser
 import pathlib
 import resource
 import subprocess
@@ -27,6 +28,15 @@ MACROS = {
     "QUMAZVK": [],
 }
 
+# The business years of the second application's client.
+YEARS = [
+    ("01.01.2001", "31.12.2001"),
+    ("01.01.2002", "31.12.2002"),
+    ("01.01.2003", "31.12.2003"),
+    ("01.01.2004", "30.06.2004"),
+    ("01.07.2004", "30.06.2005"),
+]
+
 
 def settings_of_version_280():
     """The settings of the demonstration without the control paths, which belong to version 2100."""
@@ -43,10 +53,10 @@ def child_seconds():
 class ShippedMacrosTest(unittest.TestCase):
     def test_every_shipped_macro_has_a_desktop_file_and_is_rehearsed(self):
         self.assertEqual({path.stem for path in DEMO.glob("*.[Mm][Aa][Kk]")}, set(MACROS))
-        self.assertEqual({path.name for path in DESKTOPS.iterdir()}, {name + ".desktop" for name in MACROS})
+        self.assertEqual({path.name for path in DESKTOPS.glob("*.desktop")}, {name + ".desktop" for name in MACROS})
 
-    def rehearse(self, name, folder):
-        options = list(MACROS[name])
+    def rehearse(self, name, folder, *more):
+        options = [*MACROS[name], *more]
         if name == "MERLA280":
             settings = pathlib.Path(folder, "280.INI")
             settings.write_bytes(settings_of_version_280())
@@ -66,6 +76,19 @@ class ShippedMacrosTest(unittest.TestCase):
                 log = done.stdout.decode().splitlines()
                 self.assertEqual(log[-2:], [COMPLETED, STARS])
                 self.assertIn(f"MakroFile: {name}.MAK", log)
+
+    def test_each_year_of_the_assets_ends_on_its_own_day(self):
+        for name in ("MERLA280", "MERLA2100"):
+            with self.subTest(name), tempfile.TemporaryDirectory() as folder:
+                drive = pathlib.Path(folder, "drive")
+                drive.mkdir()
+                self.assertEqual(self.rehearse(name, folder, "--drive", str(drive)).returncode, 0)
+                settings = configparser.ConfigParser()
+                text = (drive / "TeRu" / "Extern" / "4711" / "ANL" / "export.cfg").read_text("cp1252")
+                settings.read_string(text)
+                client = settings["Mandantendaten"]
+                years = [(client[f"{number}WJ Beginn"], client[f"{number}WJ Ende"]) for number in range(1, 6)]
+                self.assertEqual(years, YEARS)
 
 
 if __name__ == "__main__":

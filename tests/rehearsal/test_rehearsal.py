@@ -65,21 +65,34 @@ def comparable(log):
 SYSTEM_FOLDERS = {"windows", "users", "Program Files", "ProgramData"}
 
 
-def tree(folder, prefix=""):
-    """What lies below a folder: the bytes of each file by its path, and None for each folder."""
-    paths = {prefix + str(path.relative_to(folder)): path for path in sorted(folder.rglob("*"))}
-    return {name: path.read_bytes() if path.is_file() else None for name, path in paths.items()}
+def files_below(folder, name):
+    """What lies in a folder of this name on the drive: each path, and behind that of a file its lines."""
+    lines = []
+    for path in sorted(folder.iterdir()) if folder.is_dir() else []:
+        inner = f"{name}/{path.name}"
+        if path.is_dir():
+            lines += [inner, *files_below(path, inner)]
+        elif not is_found(inner, path):
+            lines += [inner, *(repr(line) for line in path.read_bytes().decode(CODE_PAGE).split("\n"))]
+    return lines
+
+
+def is_found(name, path):
+    """The programs, their logs, and what was laid beside them."""
+    laid = DEMO / path.name
+    of_programs = {"QUMA/" + program for program in (PROGRAM, "QUMAEXP.LOG", "teru.log")}
+    return name in of_programs or (
+        name == "QUMA/" + path.name and laid.is_file() and laid.read_bytes() == path.read_bytes()
+    )
 
 
 def left_by_run(drive, temporary_files):
-    """What a run leaves on a drive, without the programs, their logs, and what they have found there."""
-    left = {"TEMP": None, **tree(temporary_files, "TEMP/")}
-    for folder in drive.iterdir():
+    """What a run leaves on a drive, as lines."""
+    lines = files_below(temporary_files, "TEMP")
+    for folder in sorted(drive.iterdir()):
         if folder.name not in SYSTEM_FOLDERS and folder != temporary_files:
-            left |= {folder.name: None, **tree(folder, folder.name + "/")}
-    found = {f"QUMA/{path.name}": path.read_bytes() for path in DEMO.iterdir() if path.is_file()}
-    of_programs = {"QUMA/" + name for name in (PROGRAM, "QUMAEXP.LOG", "teru.log")}
-    return {name: data for name, data in left.items() if name not in of_programs and found.get(name) != data}
+            lines += files_below(folder, folder.name)
+    return lines
 
 
 class RehearsalTest(EndToEndTest):
@@ -109,6 +122,9 @@ class RehearsalTest(EndToEndTest):
         self.assertIn(old, settings)
         self.lay("QUMAEXP.INI", settings.replace(old, new, 1))
 
+    def assert_same(self, pressed, rehearsed):
+        self.assertEqual("\n".join(difflib.unified_diff(pressed, rehearsed, "pressed", "rehearsed", lineterm="")), "")
+
     def compare(self, macro, caption, *answers, confirm=None):
         """Runs a macro by the key, rehearses it with the same settings and clock, and compares what both leave."""
         shutil.copy(DEMO / macro, self.folder)
@@ -122,10 +138,10 @@ class RehearsalTest(EndToEndTest):
         self.assertEqual(pressed[-2:], [COMPLETED, STARS])
         with tempfile.TemporaryDirectory() as drive:
             rehearsed = self.rehearsed(macro, drive, self.clock_of(pressed), answers)
-            logs = comparable(pressed), comparable(rehearsed)
-            self.assertEqual("\n".join(difflib.unified_diff(*logs, "pressed", "rehearsed", lineterm="")), "")
+            self.assert_same(comparable(pressed), comparable(rehearsed))
             drive = pathlib.Path(drive)
-            self.assertEqual(left_by_run(self.desktop.drive, self.temporary_files), left_by_run(drive, drive / "TEMP"))
+            left = left_by_run(self.desktop.drive, self.temporary_files), left_by_run(drive, drive / "TEMP")
+            self.assert_same(*left)
 
     def clock_of(self, log):
         """When the key was pressed, by the head of the run."""

@@ -1,10 +1,13 @@
 #include "actions.h"
 
+#include <algorithm>
 #include <charconv>
 #include <map>
 
+#include "common/tool.h"
 #include "files.h"
 #include "platform/simulated/desktop.h"
+#include "runtime/code_page.h"
 #include "runtime/text.h"
 
 namespace makrun {
@@ -53,6 +56,7 @@ Action ActionReader::ReadAction(const Statement& statement, Arguments& arguments
       {"clipboard", &ActionReader::Clipboard}, {"write", &ActionReader::Write},
       {"append", &ActionReader::Append},       {"row", &ActionReader::AddRow},
       {"clear", &ActionReader::ClearRows},     {"select-all", &ActionReader::SelectRows},
+      {"copy", &ActionReader::Copy},
   };
   const std::string& word = statement.words[0].text;
   if (word == "after") return ReadDelay(statement, arguments);
@@ -72,7 +76,8 @@ Action ActionReader::Open(Arguments& arguments) const {
 }
 
 Action ActionReader::Close(Arguments& arguments) const {
-  return [name = KnownName(arguments)] { scene.Close(name); };
+  return OnWindow(ReadTarget(arguments),
+                  [](const simulated::Window& window) { simulated::DestroyWindow(window.handle); });
 }
 
 Action ActionReader::Show(Arguments& arguments) const {
@@ -164,6 +169,24 @@ Action ActionReader::Grow(Arguments& arguments) const {
   };
 }
 
+// The file's bytes are read at once, so that a file that is not there is a mistake here.
+Action ActionReader::Copy(Arguments& arguments) const {
+  const std::string expected = "the name of a file, from this file's folder on, in double quotes";
+  const std::string& name = arguments.Text(expected);
+  std::string bytes;
+  try {
+    bytes = tools::ReadFile(path_.substr(0, path_.find_last_of("/\\") + 1) + runtime::ToUtf8(name));
+  } catch (const tools::FileError& error) {
+    arguments.Mistake(expected + "; " + error.text);
+  }
+  const FilledText path = Filled(arguments, arguments.Text("the new file's path in double quotes"));
+  if (arguments.More()) {
+    const auto size = static_cast<std::int32_t>(bytes.size());
+    bytes.resize(static_cast<std::size_t>(arguments.Number("the bytes that are copied, of " + std::to_string(size), 0, size)));
+  }
+  return [=] { PutSimulatedFile(path.Now(), bytes); };
+}
+
 Action ActionReader::ReadDelay(const Statement& statement, Arguments& arguments) const {
   const std::int32_t milliseconds = arguments.Number("milliseconds", 0);
   return [milliseconds, actions = Read(statement)] { simulated::Schedule(milliseconds, [=] { Carry(actions); }); };
@@ -171,7 +194,7 @@ Action ActionReader::ReadDelay(const Statement& statement, Arguments& arguments)
 
 Action ActionReader::ReadCondition(const Statement& statement, Arguments& arguments) const {
   const WindowPlan& target = ReadTarget(arguments);
-  const std::string expected = "selected and a number, checked, unchecked, or text and a text";
+  const std::string expected = "selected and a number, checked, unchecked, or text and texts";
   const std::string& state = arguments.Name(expected);
   std::function<bool(const simulated::Window&)> holds;
   if (state == "selected") {
@@ -180,8 +203,9 @@ Action ActionReader::ReadCondition(const Statement& statement, Arguments& argume
   } else if (state == "checked" || state == "unchecked") {
     holds = [check = state == "checked" ? 1 : 0](const simulated::Window& window) { return window.check == check; };
   } else if (state == "text") {
-    const std::string text = arguments.Text("a text in double quotes");
-    holds = [=](const simulated::Window& window) { return window.text == text; };
+    std::vector<std::string> texts = {arguments.Text("a text in double quotes")};
+    for (const std::string& text : arguments.Texts("another text in double quotes")) texts.push_back(text);
+    holds = [=](const simulated::Window& window) { return std::ranges::count(texts, window.text) != 0; };
   } else {
     arguments.Mistake(expected);
   }

@@ -23,10 +23,11 @@ class ActionReader {
 
   // The actions below a statement; there must be one.
   std::vector<Action> Read(const Statement& statement) const;
+  // "after" and its actions, as one action that schedules them.
+  Action ReadDelay(const Statement& statement, Arguments& arguments) const;
 
  private:
   Action ReadAction(const Statement& statement, Arguments& arguments) const;
-  Action ReadDelay(const Statement& statement, Arguments& arguments) const;
   Action ReadCondition(const Statement& statement, Arguments& arguments) const;
   Action Open(Arguments& arguments) const;
   Action Close(Arguments& arguments) const;
@@ -44,6 +45,7 @@ class ActionReader {
   Action Write(Arguments& arguments) const;
   Action Append(Arguments& arguments) const;
   Action Grow(Arguments& arguments) const;
+  Action Copy(Arguments& arguments) const;
   std::string KnownName(Arguments& arguments) const;
   const WindowPlan& ReadTarget(Arguments& arguments) const;
   // The window or control of "NAME" or "NAME.ID", with the ids of frames in between; null where it is not there.

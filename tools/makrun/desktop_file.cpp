@@ -29,9 +29,10 @@ class Loader {
     scene = {};
     const std::vector<Statement> statements = ReadStatements(path_);
     for (const Statement& statement : statements) ReadTopLevel(statement);
-    for (const auto& [statement, plan] : references_) ReadReference(*statement, *plan);
+    for (const auto& [statement, plan] : references_) ReadReference(*statement, plan);
     // The file lists the windows from the top down.
     for (auto name = open_.rbegin(); name != open_.rend(); ++name) scene.Open(*name);
+    for (const Action& action : fromStart_) action();
   }
 
  private:
@@ -69,6 +70,10 @@ class Loader {
       ReadBox(statement, arguments);
       return;
     }
+    if (word == "after") {
+      references_.emplace_back(&statement, nullptr);
+      return;
+    }
     ExpectNothingBelow(statement);
     if (word == "file") {
       const std::string& path = arguments.Text("the file's path in double quotes");
@@ -85,8 +90,15 @@ class Loader {
     } else if (word == "environment") {
       const std::string& name = arguments.Text("the variable's name in double quotes");
       simulated::SetEnvironmentVariable(name, arguments.Text("the variable's text in double quotes"));
+    } else if (word == "missing-program") {
+      simulated::SetMissingProgram(arguments.Text("the command that starts no program, in double quotes"));
+    } else if (word == "refuses-blockinput") {
+      simulated::Fail("BlockInput");
     } else {
-      arguments.Mistake("window, dialog, box, file, folder, registry or environment instead of \"" + word + "\"");
+      arguments.Mistake(
+          "window, dialog, box, file, folder, registry, environment, missing-program, refuses-blockinput or after "
+          "instead of \"" +
+          word + "\"");
     }
     arguments.End();
   }
@@ -167,6 +179,7 @@ class Loader {
     else if (word == "marked") window.selectionMark = arguments.Number("the number of a row, from 0", 0);
     else if (word == "by-parameter") window.rowFromParameter = true;
     else if (word == "refuses-text") plan.refusesText = true;
+    else if (word == "closes-after" && plan.closesOnCommand) plan.closesAfter = arguments.Number("milliseconds", 0);
     else arguments.Mistake("a property of the window, a control or a reaction instead of \"" + word + "\"");
   }
 
@@ -197,11 +210,17 @@ class Loader {
   }
 
   // What names other windows and controls is read when all are known.
-  void ReadReference(const Statement& statement, WindowPlan& plan) {
+  void ReadReference(const Statement& statement, WindowPlan* plan) {
     Arguments arguments(path_, statement);
-    if (statement.words[0].text == "on") ReadReaction(statement, arguments, plan);
-    else
-      ReadFolderControl(statement, arguments, plan);
+    const std::string& word = statement.words[0].text;
+    if (word == "on") {
+      ReadReaction(statement, arguments, *plan);
+    } else if (word == "folder-to") {
+      ReadFolderControl(statement, arguments, *plan);
+    } else {
+      fromStart_.push_back(actions_.ReadDelay(statement, arguments));
+      arguments.End();
+    }
   }
 
   void ReadFolderControl(const Statement& statement, Arguments& arguments, WindowPlan& plan) {
@@ -240,7 +259,9 @@ class Loader {
 
   const std::string& path_;
   ActionReader actions_;
+  // Statements with what they belong to; null for the whole desktop.
   std::vector<std::pair<const Statement*, WindowPlan*>> references_;
+  std::vector<Action> fromStart_;
   std::vector<std::string> open_;
   std::map<std::string, std::uint32_t> processes_;
 };

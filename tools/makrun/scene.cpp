@@ -26,6 +26,8 @@ void TakeFolder(std::int32_t browser, const WindowPlan& control, const Message& 
 
 // What a planned window does with a message before its class sees it. The plan outlives the window.
 std::optional<std::int32_t> React(const WindowPlan& plan, std::int32_t window, const Message& message) {
+  const bool answers = message.number == platform::WM_COMMAND && plan.closesOnCommand;
+  if (answers && !scene.TakeAnswer(window)) return 0;
   if (message.number == platform::BFFM_SETSELECTIONA && plan.folderControl != nullptr)
     TakeFolder(window, *plan.folderControl, message);
   for (const Reaction& reaction : plan.reactions) {
@@ -34,8 +36,10 @@ std::optional<std::int32_t> React(const WindowPlan& plan, std::int32_t window, c
   }
   if (message.number == platform::WM_SETTEXT && plan.refusesText) return 0;
   if (message.number == platform::WM_CLOSE && plan.staysOnClose) return 0;
-  if (message.number == platform::WM_COMMAND && plan.closesOnCommand) {
-    simulated::DestroyWindow(window);
+  if (answers) {
+    if (plan.closesAfter == 0) simulated::DestroyWindow(window);
+    else
+      simulated::Schedule(plan.closesAfter, [window] { simulated::DestroyWindow(window); });
     return 0;
   }
   return std::nullopt;
@@ -79,7 +83,7 @@ void Scene::Open(const std::string& name) {
   if (simulated::At(window).visible) simulated::Activate(window);
 }
 
-void Scene::Close(const std::string& name) { simulated::DestroyWindow(Find(plans.at(name))); }
+bool Scene::TakeAnswer(std::int32_t box) { return answered_.insert(box).second; }
 
 std::int32_t Scene::Find(const WindowPlan& plan) const {
   const auto handle = handles_.find(&plan);

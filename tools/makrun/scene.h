@@ -5,6 +5,7 @@
 #include <functional>
 #include <list>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,9 +25,10 @@ struct WindowPlan {
   platform::simulated::Window window;
   std::vector<Reaction> reactions;
   std::list<WindowPlan> controls;
-  bool refusesText = false;        // WM_SETTEXT has no effect and answers 0
-  bool staysOnClose = false;       // WM_CLOSE does what the file says and nothing else
-  bool closesOnCommand = false;    // a message box: any command closes it, after the reactions
+  bool refusesText = false;      // WM_SETTEXT has no effect and answers 0
+  bool staysOnClose = false;     // WM_CLOSE does what the file says and nothing else
+  bool closesOnCommand = false;  // a message box: the first command closes it, after the reactions
+  std::int32_t closesAfter = 0;  // so many milliseconds later
   // A folder browser: the path that BFFM_SETSELECTIONA brings is shown by this child.
   const WindowPlan* folderControl = nullptr;
 };
@@ -44,7 +46,9 @@ class Scene {
 
   // Makes the window on top of all others and in front. One that is open comes to the front.
   void Open(const std::string& name);
-  void Close(const std::string& name);
+
+  // Whether nobody has answered this message box before.
+  bool TakeAnswer(std::int32_t box);
 
   // The window or control that was made by a plan last; 0 when it is not there.
   std::int32_t Find(const WindowPlan& plan) const;
@@ -53,6 +57,7 @@ class Scene {
   std::int32_t Make(const WindowPlan& plan, std::int32_t parent);
 
   std::map<const WindowPlan*, std::int32_t> handles_;
+  std::set<std::int32_t> answered_;
 };
 
 // The windows of the desktop file at hand.
