@@ -95,7 +95,8 @@ Action ActionReader::SetText(Arguments& arguments) const {
   const std::string expected = "the new text in double quotes";
   std::string text = arguments.Text(expected);
   for (const std::string& line : arguments.Texts(expected)) text += "\r\n" + line;
-  return OnWindow(target, [filled = Filled(arguments, text)](simulated::Window& window) { window.text = filled.Now(); });
+  return OnWindow(target,
+                  [filled = Filled(arguments, text)](simulated::Window& window) { window.text = filled.Now(); });
 }
 
 Action ActionReader::SetItems(Arguments& arguments) const {
@@ -182,7 +183,8 @@ Action ActionReader::Copy(Arguments& arguments) const {
   const FilledText path = Filled(arguments, arguments.Text("the new file's path in double quotes"));
   if (arguments.More()) {
     const auto size = static_cast<std::int32_t>(bytes.size());
-    bytes.resize(static_cast<std::size_t>(arguments.Number("the bytes that are copied, of " + std::to_string(size), 0, size)));
+    bytes.resize(
+        static_cast<std::size_t>(arguments.Number("the bytes that are copied, of " + std::to_string(size), 0, size)));
   }
   return [=] { PutSimulatedFile(path.Now(), bytes); };
 }

@@ -38,8 +38,7 @@ std::optional<std::int32_t> React(const WindowPlan& plan, std::int32_t window, c
   if (message.number == platform::WM_CLOSE && plan.staysOnClose) return 0;
   if (answers) {
     if (plan.closesAfter == 0) simulated::DestroyWindow(window);
-    else
-      simulated::Schedule(plan.closesAfter, [window] { simulated::DestroyWindow(window); });
+    else simulated::Schedule(plan.closesAfter, [window] { simulated::DestroyWindow(window); });
     return 0;
   }
   return std::nullopt;
