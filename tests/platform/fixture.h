@@ -52,6 +52,8 @@ void SetSelectionMark(std::int32_t hWnd, std::int32_t row);
 // A visible top-level window of this process with the system's own behaviour, in the place that a plan has by default.
 std::int32_t AddOwnWindow(const std::string& text);
 void DestroyForeignWindow(std::int32_t hWnd);
+// The other process puts a window of its own in front.
+void ForeignWindowComesToFront(std::int32_t hWnd);
 void DestroyOwnWindow(std::int32_t hWnd);
 
 // Another process puts these bytes and a NUL on the clipboard as text.

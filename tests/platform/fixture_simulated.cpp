@@ -60,6 +60,7 @@ std::int32_t AddOwnWindow(const std::string& text) {
 }
 
 void DestroyForeignWindow(std::int32_t hWnd) { platform::simulated::DestroyWindow(hWnd); }
+void ForeignWindowComesToFront(std::int32_t hWnd) { platform::simulated::Activate(hWnd); }
 void DestroyOwnWindow(std::int32_t hWnd) { platform::simulated::DestroyWindow(hWnd); }
 
 void PutOnClipboard(const std::string& text) { platform::simulated::Clipboard() = text; }

@@ -22,6 +22,7 @@ constexpr ULONG_PTR kAddRow = 3;
 constexpr int kColumns = 3;
 constexpr ULONG_PTR kFillClipboard = 4;
 constexpr ULONG_PTR kHoldClipboard = 5;
+constexpr ULONG_PTR kComeToFront = 6;
 
 // A plan as it goes to the other process.
 struct Order {
@@ -119,6 +120,8 @@ LRESULT CALLBACK ControllerProcedure(HWND hWnd, UINT message, WPARAM wParam, LPA
   const auto* data = reinterpret_cast<const COPYDATASTRUCT*>(lParam);
   if (data->dwData == kAdd) return NumberOf(Create(*static_cast<const Order*>(data->lpData)));
   if (data->dwData == kDestroy) return ::DestroyWindow(HandleOf(*static_cast<const std::int32_t*>(data->lpData)));
+  if (data->dwData == kComeToFront)
+    return ::SetForegroundWindow(HandleOf(*static_cast<const std::int32_t*>(data->lpData)));
   if (data->dwData == kAddRow) Add(*static_cast<const RowOrder*>(data->lpData));
   if (data->dwData == kFillClipboard) return FillClipboard(hWnd, data->lpData, data->cbData);
   if (data->dwData == kHoldClipboard)
@@ -251,6 +254,7 @@ std::int32_t AddOwnWindow(const std::string& text) {
 }
 
 void DestroyForeignWindow(std::int32_t hWnd) { Ask(kDestroy, &hWnd, sizeof hWnd); }
+void ForeignWindowComesToFront(std::int32_t hWnd) { Ask(kComeToFront, &hWnd, sizeof hWnd); }
 void DestroyOwnWindow(std::int32_t hWnd) { ::DestroyWindow(HandleOf(hWnd)); }
 
 void PutOnClipboard(const std::string& text) {

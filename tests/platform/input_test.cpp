@@ -163,4 +163,17 @@ TEST_F(Keys, NoFocusForADeadWindow) {
   EXPECT_EQ(platform::SetFocus(field_), 0);
 }
 
+TEST_F(Keys, FocusGoesFromAControlThatGoesToItsParent) {
+  const auto frame = AddForeignWindow({contract::kPlainClass, "Rahmen", window_, 6});
+  const auto inner = AddForeignWindow({.className = "Edit", .parent = frame, .id = 7, .width = 100, .height = 24});
+  const auto other = AddForeignWindow({.className = "Edit", .parent = frame, .id = 8, .width = 100, .height = 24});
+  ASSERT_TRUE(Join());
+  platform::SetForegroundWindow(window_);
+  platform::SetFocus(inner);
+  contract::DestroyForeignWindow(other);
+  EXPECT_EQ(platform::SetFocus(inner), inner);
+  contract::DestroyForeignWindow(inner);
+  EXPECT_EQ(platform::SetFocus(field_), frame);
+}
+
 }  // namespace

@@ -1,6 +1,7 @@
 #include "platform/window_state.h"
 
 #include "fixture.h"
+#include "platform/input.h"
 #include "platform/window_lookup.h"
 
 namespace {
@@ -125,6 +126,22 @@ TEST_F(WindowState, WindowBecomesTheForegroundWindow) {
     contract::RunFor(500);
     EXPECT_EQ(platform::GetForegroundWindow(), window);
   }
+}
+
+TEST_F(WindowState, WindowThatComesToTheFrontByItselfGetsTheKeys) {
+  const auto first = AddSettledWindow("erstes");
+  const auto second = AddSettledWindow("zweites");
+  platform::SetForegroundWindow(second);
+  contract::RunFor(500);
+  contract::ForeignWindowComesToFront(first);
+  contract::RunFor(500);
+  EXPECT_EQ(platform::GetForegroundWindow(), first);
+  platform::keybd_event(contract::kSlowKey, 0, 0, 0);
+  platform::keybd_event(contract::kSlowKey, 0, platform::KEYEVENTF_KEYUP, 0);
+  contract::RunFor(1000);
+  std::string text;
+  platform::GetWindowTextA(first, text, 100);
+  EXPECT_EQ(text, "langsam");
 }
 
 TEST_F(WindowState, DeadHandleIsRefused) {

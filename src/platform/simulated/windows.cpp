@@ -53,6 +53,8 @@ void DestroyWindow(std::int32_t hWnd) {
   Deliver(hWnd, {WM_NCDESTROY, 0, 0});
   if (!Exists(hWnd)) return;
   Desktop& desktop = TheDesktop();
+  for (auto& [process, focus] : desktop.focus)
+    if (focus == hWnd) focus = At(hWnd).parent;
   std::erase(SiblingsOf(At(hWnd)), hWnd);
   desktop.windows.erase(hWnd);
   desktop.normalPositions.erase(hWnd);
