@@ -2,7 +2,9 @@
 
 import configparser
 import pathlib
+import re
 import resource
+import shutil
 import subprocess
 import tempfile
 import unittest
@@ -27,6 +29,9 @@ MACROS = {
     "QUMASTAMM": [],
     "QUMAZVK": [],
 }
+
+# What names a window or control in a desktop file.
+ACTIONS = {"text", "when", "select", "check", "uncheck", "items", "row", "clear", "select-all", "show", "hide", "close"}
 
 # The business years of the second application's client.
 YEARS = [
@@ -89,6 +94,36 @@ class ShippedMacrosTest(unittest.TestCase):
                 client = settings["Mandantendaten"]
                 years = [(client[f"{number}WJ Beginn"], client[f"{number}WJ Ende"]) for number in range(1, 6)]
                 self.assertEqual(years, YEARS)
+
+    def test_a_changed_target_is_refused_with_its_line(self):
+        # Of each desktop file the first line of each kind.
+        for desktop in DESKTOPS.glob("*.desktop"):
+            lines = desktop.read_text("utf-8").splitlines()
+            targets = {}
+            for number, line in enumerate(lines, 1):
+                if match := re.fullmatch(r"( +)([a-z-]+) ([a-z]+(?:\.[\d.]+)?)( .*|)", line):
+                    if match[2] in ACTIONS:
+                        targets.setdefault(match[2], (number, match))
+            self.assertTrue(targets, desktop.name)
+            for number, match in targets.values():
+                for changed in (f"x{match[3]}", f"{match[3]}.999"):
+                    with self.subTest(desktop=desktop.name, line=number, changed=changed):
+                        refusal = self.refusal(desktop, lines, number, match, changed)
+                        self.assertIn(f".desktop:{number}: expected the name of a window of this file", refusal)
+
+    def refusal(self, desktop, lines, number, match, changed):
+        """What is said about the desktop file with this target in a line."""
+        text = [*lines[: number - 1], f"{match[1]}{match[2]} {changed}{match[4]}", *lines[number:]]
+        with tempfile.TemporaryDirectory() as folder:
+            for beside in DESKTOPS.iterdir():
+                if beside.is_dir():
+                    shutil.copytree(beside, pathlib.Path(folder, beside.name))
+            path = pathlib.Path(folder, desktop.name)
+            path.write_text("\n".join(text), "utf-8")
+            macro = str(DEMO / (desktop.stem + ".MAK"))
+            done = subprocess.run([str(MAKRUN), "--desktop", str(path), macro], capture_output=True, timeout=300)
+        self.assertEqual((done.returncode, done.stdout), (66, b""))
+        return done.stderr.decode()
 
 
 if __name__ == "__main__":

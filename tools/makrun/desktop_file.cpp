@@ -1,5 +1,6 @@
 #include "desktop_file.h"
 
+#include <algorithm>
 #include <map>
 #include <utility>
 #include <vector>
@@ -230,6 +231,8 @@ class Loader {
     ExpectNothingBelow(statement);
   }
 
+  static std::int32_t IdOf(const WindowPlan& plan) { return plan.window.id; }
+
   void ReadReaction(const Statement& statement, Arguments& arguments, WindowPlan& plan) {
     const std::string expected = "command, notification, key, character, text or close";
     const std::string& event = arguments.Name(expected);
@@ -238,6 +241,9 @@ class Loader {
       const std::int32_t id = arguments.Number("the id of the command, a number");
       const std::int32_t code =
           event == "command" ? 0 : arguments.Number("the code of the notification, a number", 0, 32767);
+      // A command can be that of a menu, but a notification comes from a child.
+      if (event == "notification" && std::ranges::count(plan.controls, id, IdOf) == 0)
+        arguments.Mistake("the id of a child, which sends the notification to this window or control");
       reaction.wanted = [=](const Message& message) {
         return message.number == platform::WM_COMMAND && message.wParam == code * 65536 + (id & 0xFFFF);
       };
