@@ -196,8 +196,15 @@ class Desktop:
 
     def x_windows(self, title):
         """The X windows that are seen and whose title fits the regular expression."""
+        return self._search("--name", title)
+
+    def x_windows_of(self, program):
+        """The X windows that are seen of programs whose file name fits the regular expression."""
+        return self._search("--classname", program)
+
+    def _search(self, *what):
         result = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--name", title],
+            ["xdotool", "search", "--onlyvisible", *what],
             env=self.environment,
             capture_output=True,
             text=True,

@@ -25,6 +25,9 @@ STARS = "*" * 80
 RUN_PATIENCE = 3 * PATIENCE
 COMPLETED = "Die Verarbeitung ist erfolgreich abgeschlossen."
 CAPTION = "TeRu - 0012 / 4711 / 2005 / Finanzbuchhaltung"
+# The notification area and an icon in it, in Wine 8 and in Wine 10. The area's class in Wine 10 is that of Windows.
+TRAY_CLASSES = {"__winex11_standalone_tray", "Shell_TrayWnd"}
+ICON_CLASSES = {"__winex11_tray_icon", "__wine_tray_icon"}
 
 _session = None
 
@@ -188,10 +191,8 @@ class EndToEndTest(unittest.TestCase):
 
     def icons(self):
         """The icons in the notification area."""
-        found = []
-        for tray in self.probe.windows("Wine System Tray"):
-            found += [control for control in self.probe.controls(tray) if control.class_name == "__winex11_tray_icon"]
-        return found
+        areas = [window for window in self.probe.windows() if window.class_name in TRAY_CLASSES]
+        return [icon for area in areas for icon in self.probe.controls(area) if icon.class_name in ICON_CLASSES]
 
     def open_menu(self):
         """Opens the icon's menu by a right click and yields its window."""

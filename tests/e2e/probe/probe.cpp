@@ -419,6 +419,9 @@ void Run(const Fields& fields) {
 }  // namespace
 
 int main() {
+  // Places are pixels of the screen, as the tests' clicks are. A program that does not know the resolution is told
+  // scaled ones: on Windows from Vista on, and in Wine 10; Wine 8 tells every program the pixels of the screen.
+  SetProcessDPIAware();
   static char line[65536];
   while (std::fgets(line, sizeof line, stdin) != nullptr) {
     std::string text = line;
