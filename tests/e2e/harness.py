@@ -33,22 +33,21 @@ _session = None
 
 
 class Session:
-    def __init__(self, dpi):
-        self.dpi = dpi
+    def __init__(self, dpi, screen):
         # A second run of tests at the same time needs a prefix of its own.
-        self.desktop = Desktop(RESULTS / os.environ.get("E2E_PREFIX", "prefix"), dpi)
+        self.desktop = Desktop(RESULTS / os.environ.get("E2E_PREFIX", "prefix"), dpi, screen)
         self.desktop.start()
         self.probe = Probe(self.desktop)
 
 
-def session(dpi=96):
-    """The running desktop; another resolution needs a new one."""
+def session(dpi, screen):
+    """The running desktop; another resolution or size of the screen needs a new one."""
     global _session
-    if _session is not None and _session.dpi != dpi:
+    if _session is not None and (_session.desktop.dpi, _session.desktop.screen) != (dpi, screen):
         _session.desktop.close()
         _session = None
     if _session is None:
-        _session = Session(dpi)
+        _session = Session(dpi, screen)
     return _session
 
 
@@ -65,9 +64,10 @@ class EndToEndTest(unittest.TestCase):
     """Each test starts with an empty C:\\TeRu and a C:\\QUMA that holds the program alone, and leaves no program."""
 
     dpi = 96
+    screen = (1024, 768)
 
     def setUp(self):
-        current = session(self.dpi)
+        current = session(self.dpi, self.screen)
         self.desktop, self.probe = current.desktop, current.probe
         self._started = []
         self.folder = self.desktop.host_path(FOLDER)
@@ -93,9 +93,9 @@ class EndToEndTest(unittest.TestCase):
         self._started.append(process)
         return process
 
-    def start_teru(self, *arguments, caption=CAPTION):
+    def start_teru(self, *arguments, caption=CAPTION, program=WINDOWS_BUILD / "TERU.EXE"):
         """Starts the stand-in and yields its main window and its export dialog."""
-        self.start(WINDOWS_BUILD / "TERU.EXE", "--caption", caption, "--log", FOLDER + "\\teru.log", *arguments)
+        self.start(program, "--caption", caption, "--log", FOLDER + "\\teru.log", *arguments)
         main = self.probe.window(caption)
         return main, self.probe.window("GDPdU-Export", where=lambda window: window.process == main.process)
 
