@@ -23,7 +23,7 @@ class Look:
 
     def shoot(self, name, window=None, default=None):
         """Takes a screenshot once the window is painted; of a form of our own, looks at its controls."""
-        wait_until(lambda: self.desktop.x_windows("."), "a window on the screen")
+        wait_until(lambda: self.desktop.x_windows_of("."), "a window on the screen")
         self.desktop.command(["sleep", "0.3"])
         self.desktop.screenshot(RESULTS / "look" / str(self.dpi) / f"{name}.png")
         if window is not None:
