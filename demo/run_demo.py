@@ -52,7 +52,8 @@ class Demo:
 
     def start_programs(self):
         self.desktop.program(self.program / "QUMAEXP.EXE", cwd=self.program)
-        self.desktop.x_window("^Wine System Tray$")
+        # The notification area, which each version of Wine titles in its own way, comes up with its first icon.
+        wait_until(lambda: self.desktop.x_windows_of("^explorer"), "the icon in the notification area")
         self.desktop.program(self.destination / "TERU.EXE", cwd=self.destination)
         self.desktop.x_window(EXPORT)
         self.desktop.activate(TERU)

@@ -101,12 +101,13 @@ def google_suite(program, totals):
     run_suite(totals, f"{program.name} (native)", 1500, result, google_counts, command, preexec_fn=step_back)
 
 
-def google_suite_under_wine(program, totals):
-    name = f"{program.name} (Wine)"
-    result = RESULTS / f"{program.name}-wine.json"
-    command = ["wine", str(program), "--gtest_brief=1", f"--gtest_output=json:Z:{result}".replace("/", "\\")]
+def google_suite_under_wine(program, totals, dpi=96, tests="*"):
+    name = f"{program.name} (Wine, {dpi} dpi)"
+    result = RESULTS / f"{program.name}-wine-{dpi}.json"
+    output = f"--gtest_output=json:Z:{result}".replace("/", "\\")
+    command = ["wine", str(program), "--gtest_brief=1", f"--gtest_filter={tests}", output]
     try:
-        with Desktop(RESULTS / "prefix") as desktop:
+        with Desktop(RESULTS / "prefix", dpi) as desktop:
             environment = desktop.environment
             run_suite(totals, name, 600, result, google_counts, command, env=environment, stdin=subprocess.DEVNULL)
     except DesktopError as error:
@@ -137,7 +138,10 @@ def main():
     totals = Totals()
     run_suite(totals, *python_suite("layering", ROOT / "tests" / "layering", 60))
     build("windows", totals)
-    google_suite_under_wine(WINDOWS_BUILD / "platform_contract_tests.exe", totals)
+    contract_tests = WINDOWS_BUILD / "platform_contract_tests.exe"
+    # Windows are drawn larger only on a screen of high resolution.
+    google_suite_under_wine(contract_tests, totals, dpi=144, tests="*.Scale*")
+    google_suite_under_wine(contract_tests, totals)
     # The end-to-end tests wait for windows most of their time, so two halves of them run beside the native build, each
     # on a desktop of its own.
     folder = ROOT / "tests" / "e2e"

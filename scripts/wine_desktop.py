@@ -52,9 +52,10 @@ def _die_with_parent():
 class Desktop:
     """Use as a context manager, or call start() and rely on close() at the end of the Python program."""
 
-    def __init__(self, prefix, dpi=96):
+    def __init__(self, prefix, dpi=96, screen=(1024, 768)):
         self.prefix = pathlib.Path(prefix)
         self.dpi = dpi
+        self.screen = screen
         self.processes = []
         self.environment = dict(os.environ)
         self.environment.update(
@@ -125,7 +126,8 @@ class Desktop:
     def _start_display(self):
         # The server itself looks for a free number and tells it, so runs at the same time cannot meet.
         read_end, write_end = os.pipe()
-        command = ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1024x768x24", "-nolisten", "tcp"]
+        size = "{}x{}x24".format(*self.screen)
+        command = ["Xvfb", "-displayfd", str(write_end), "-screen", "0", size, "-nolisten", "tcp"]
         self._display_server = self._background(command, pass_fds=[write_end])
         os.close(write_end)
         with os.fdopen(read_end) as answer:
@@ -196,8 +198,15 @@ class Desktop:
 
     def x_windows(self, title):
         """The X windows that are seen and whose title fits the regular expression."""
+        return self._search("--name", title)
+
+    def x_windows_of(self, program):
+        """The X windows that are seen of programs whose file name fits the regular expression."""
+        return self._search("--classname", program)
+
+    def _search(self, *what):
         result = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--name", title],
+            ["xdotool", "search", "--onlyvisible", *what],
             env=self.environment,
             capture_output=True,
             text=True,
@@ -231,6 +240,11 @@ class Desktop:
 
     def move(self, x, y):
         self.command(["xdotool", "mousemove", str(x), str(y)])
+
+    def pointer(self):
+        """The pixel of the screen that the pointer is on."""
+        place = dict(field.split(":") for field in self.command(["xdotool", "getmouselocation"]).split())
+        return int(place["x"]), int(place["y"])
 
     def screenshot(self, path):
         path = pathlib.Path(path)

@@ -102,10 +102,12 @@ bool MouseClickbyWindowOffset(const std::string& caption, const std::string& but
     platform::GetWindowRect(window, place);
     const double twipsX = platform::TwipsPerPixelX();
     const double twipsY = platform::TwipsPerPixelY();
+    // An offset counts in the pixels of the window, which may be drawn larger than its program knows.
+    const double scale = platform::WindowScale(window);
     std::int32_t x = Twips(place.left, twipsX);
     std::int32_t y = Twips(place.top, twipsY);
-    x = Sum(x, Twips(runtime::ToDouble(xOffset), twipsX));
-    y = Sum(y, Twips(runtime::ToDouble(yOffset), twipsY));
+    x = Sum(x, Twips(runtime::ToDouble(xOffset) * scale, twipsX));
+    y = Sum(y, Twips(runtime::ToDouble(yOffset) * scale, twipsY));
     return MouseClick(runtime::ToUpper(button) == "LEFT" ? kLeft : kRight, x, y);
   });
 }
@@ -132,11 +134,12 @@ std::int32_t FindChildWindow(std::int32_t hParent, const std::string& cls, const
 }
 
 void GetControlCorner(std::int32_t hWnd, std::int32_t& x, std::int32_t& y) {
-  constexpr std::int32_t kInside = 5;
+  constexpr std::int32_t kInside = 5;  // pixels of the control
   platform::Rect place;
   Skip([&] { platform::GetWindowRect(hWnd, place); });
-  x = place.left + kInside;
-  y = place.top + kInside;
+  const std::int32_t inside = runtime::ToLong(kInside * platform::WindowScale(hWnd));
+  x = place.left + inside;
+  y = place.top + inside;
 }
 
 }  // namespace basMain

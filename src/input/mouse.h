@@ -17,9 +17,9 @@ bool MouseClick(const std::int32_t& button, const std::int32_t& x, const std::in
 // nothing and writes nothing.
 bool ClickMouseButton(const std::string& button);
 
-// "MOUSECLICKBYWINDOWOFFSET": clicks a place so many pixels, decimals allowed, from the outer corner of the form with
-// this whole caption; with the right button unless the word is "LEFT". Without the form, and for an offset that is no
-// number, LastError is the standard error text.
+// "MOUSECLICKBYWINDOWOFFSET": clicks a place so many pixels of the window, decimals allowed, from the outer corner of
+// the form with this whole caption; with the right button unless the word is "LEFT". Without the form, and for an
+// offset that is no number, LastError is the standard error text.
 bool MouseClickbyWindowOffset(const std::string& caption, const std::string& button, const std::string& xOffset,
                               const std::string& yOffset);
 
@@ -31,7 +31,7 @@ bool MouseMoveToCtl(const std::string& cls, const std::string& caption);
 // First descendant with this class and, unless it is empty, this caption, both without case; 0 when there is none.
 std::int32_t FindChildWindow(std::int32_t hParent, const std::string& cls, const std::string& caption);
 
-// The point 5 pixels inside a window's upper left corner.
+// The point 5 pixels of the window inside its upper left corner.
 void GetControlCorner(std::int32_t hWnd, std::int32_t& x, std::int32_t& y);
 
 }  // namespace basMain

@@ -51,4 +51,8 @@ std::uint32_t GetWindowThreadProcessId(std::int32_t hWnd, std::uint32_t& lpdwPro
 // Outer rectangle in screen pixels.
 bool GetWindowRect(std::int32_t hWnd, Rect& lpRect);
 
+// Screen pixels to one pixel of the window or control itself: more than 1 where its program does not know the
+// resolution of the screen, so that the system draws it larger; 1 where the system does not do that.
+double WindowScale(std::int32_t hWnd);
+
 }  // namespace platform

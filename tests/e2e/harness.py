@@ -25,27 +25,29 @@ STARS = "*" * 80
 RUN_PATIENCE = 3 * PATIENCE
 COMPLETED = "Die Verarbeitung ist erfolgreich abgeschlossen."
 CAPTION = "TeRu - 0012 / 4711 / 2005 / Finanzbuchhaltung"
+# The notification area and an icon in it, in Wine 8 and in Wine 10. The area's class in Wine 10 is that of Windows.
+TRAY_CLASSES = {"__winex11_standalone_tray", "Shell_TrayWnd"}
+ICON_CLASSES = {"__winex11_tray_icon", "__wine_tray_icon"}
 
 _session = None
 
 
 class Session:
-    def __init__(self, dpi):
-        self.dpi = dpi
+    def __init__(self, dpi, screen):
         # A second run of tests at the same time needs a prefix of its own.
-        self.desktop = Desktop(RESULTS / os.environ.get("E2E_PREFIX", "prefix"), dpi)
+        self.desktop = Desktop(RESULTS / os.environ.get("E2E_PREFIX", "prefix"), dpi, screen)
         self.desktop.start()
         self.probe = Probe(self.desktop)
 
 
-def session(dpi=96):
-    """The running desktop; another resolution needs a new one."""
+def session(dpi, screen):
+    """The running desktop; another resolution or size of the screen needs a new one."""
     global _session
-    if _session is not None and _session.dpi != dpi:
+    if _session is not None and (_session.desktop.dpi, _session.desktop.screen) != (dpi, screen):
         _session.desktop.close()
         _session = None
     if _session is None:
-        _session = Session(dpi)
+        _session = Session(dpi, screen)
     return _session
 
 
@@ -62,9 +64,10 @@ class EndToEndTest(unittest.TestCase):
     """Each test starts with an empty C:\\TeRu and a C:\\QUMA that holds the program alone, and leaves no program."""
 
     dpi = 96
+    screen = (1024, 768)
 
     def setUp(self):
-        current = session(self.dpi)
+        current = session(self.dpi, self.screen)
         self.desktop, self.probe = current.desktop, current.probe
         self._started = []
         self.folder = self.desktop.host_path(FOLDER)
@@ -90,9 +93,9 @@ class EndToEndTest(unittest.TestCase):
         self._started.append(process)
         return process
 
-    def start_teru(self, *arguments, caption=CAPTION):
+    def start_teru(self, *arguments, caption=CAPTION, program=WINDOWS_BUILD / "TERU.EXE"):
         """Starts the stand-in and yields its main window and its export dialog."""
-        self.start(WINDOWS_BUILD / "TERU.EXE", "--caption", caption, "--log", FOLDER + "\\teru.log", *arguments)
+        self.start(program, "--caption", caption, "--log", FOLDER + "\\teru.log", *arguments)
         main = self.probe.window(caption)
         return main, self.probe.window("GDPdU-Export", where=lambda window: window.process == main.process)
 
@@ -188,10 +191,8 @@ class EndToEndTest(unittest.TestCase):
 
     def icons(self):
         """The icons in the notification area."""
-        found = []
-        for tray in self.probe.windows("Wine System Tray"):
-            found += [control for control in self.probe.controls(tray) if control.class_name == "__winex11_tray_icon"]
-        return found
+        areas = [window for window in self.probe.windows() if window.class_name in TRAY_CLASSES]
+        return [icon for area in areas for icon in self.probe.controls(area) if icon.class_name in ICON_CLASSES]
 
     def open_menu(self):
         """Opens the icon's menu by a right click and yields its window."""

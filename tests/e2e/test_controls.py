@@ -332,6 +332,7 @@ MSG=der Dialog ist vorn
 ENDIF
 WAIT=1000
 SETFOCUS={RECORD}
+WAIT=500
 SETFOCUSCTL={TEXT_BOX},,{PLACE}
 SELECTALL={PARTNERS},{RECORD},1
 IF SELECTALL={BANK_ACCOUNTS},{RECORD},1,{ACCOUNT_FRAME}
@@ -353,7 +354,8 @@ SETFOCUSCTL=
                 "Der Fokus wurde gesetzt.",
                 "MSG: der Dialog ist vorn",
                 # The status dialog, which has been hidden and shown, comes to the front again some time later: hence the
-                # waits before the focus is set.
+                # waits before the focus is set. Windows changes the window in front at once, Wine in its own time: hence
+                # the wait behind.
                 "Der Fokus wurde gesetzt.",
                 f"Der Fokus wurde auf das Feld gesetzt. ({place})",
                 "Die Liste wurde ausgewählt (5)",

@@ -43,6 +43,8 @@ class Test : public testing::Test {
 
 // A visible window of another process; the same process for all of them.
 std::int32_t AddForeignWindow(const WindowPlan& plan);
+// A plain window, 300 by 200 pixels in its own eyes, of a program that does not know the resolution of the screen.
+std::int32_t AddUnawareWindow();
 // Puts an entry at the end of a combo box.
 void AddEntry(std::int32_t hWnd, const std::string& text);
 // Puts a row at the end of a list view, and takes one out.

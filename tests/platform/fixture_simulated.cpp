@@ -47,6 +47,14 @@ std::int32_t AddForeignWindow(const WindowPlan& plan) {
   return hWnd;
 }
 
+std::int32_t AddUnawareWindow() {
+  platform::simulated::SetTwipsPerPixel(10, 10);  // 144 dots to the inch
+  return platform::simulated::AddWindow({.className = kPlainClass,
+                                         .process = kForeignProcess,
+                                         .rectangle = {60, 90, 510, 390},
+                                         .knowsResolution = false});
+}
+
 void AddEntry(std::int32_t hWnd, const std::string& text) { At(hWnd).entries.push_back(text); }
 void AddRow(std::int32_t hWnd, const std::vector<std::string>& columns) { At(hWnd).rows.push_back({columns}); }
 void RemoveRow(std::int32_t hWnd, std::int32_t row) { At(hWnd).rows.erase(At(hWnd).rows.begin() + row); }

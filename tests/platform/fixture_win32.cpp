@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "fixture.h"
+#include "platform/win32/late_binding.h"
 
 // The system's headers come last.
 #include <windows.h>
@@ -224,6 +225,9 @@ std::int32_t AddForeignWindow(const WindowPlan& plan) {
   return foreignWindows.back();
 }
 
+// The foreign process has not said that it knows the resolution.
+std::int32_t AddUnawareWindow() { return AddForeignWindow({kPlainClass}); }
+
 void AddEntry(std::int32_t hWnd, const std::string& text) {
   ::SendMessageA(HandleOf(hWnd), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
@@ -312,7 +316,11 @@ void RemoveRegistryKey(const std::string& path) { RemoveKey(HKEY_LOCAL_MACHINE, 
 std::string MissingProgram() { return "C:\\no\\such\\program.exe"; }
 
 std::optional<int> RunAsForeignProcess(int argc, char** argv) {
-  if (argc != 3 || std::string(argv[1]) != "--foreign") return std::nullopt;
+  if (argc != 3 || std::string(argv[1]) != "--foreign") {
+    // As the program's manifest does.
+    if (const auto aware = platform::BindIfThere<BOOL WINAPI()>("user32.dll", "SetProcessDPIAware")) aware();
+    return std::nullopt;
+  }
   const HANDLE starter = ::OpenProcess(SYNCHRONIZE, FALSE, std::stoul(argv[2]));
   if (starter == nullptr) return 1;
   ::InitCommonControls();

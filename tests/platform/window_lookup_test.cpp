@@ -216,8 +216,19 @@ TEST_F(WindowLookup, DeadHandleNamesNothing) {
     EXPECT_EQ(platform::GetWindowThreadProcessId(dead, process), 0u);
     EXPECT_EQ(process, 0u);
     EXPECT_FALSE(platform::GetWindowRect(dead, rect));
+    EXPECT_EQ(platform::WindowScale(dead), 1);
     EXPECT_TRUE(ChildrenOf(dead).empty());
   }
+}
+
+TEST_F(WindowLookup, ScaleIsHowMuchLargerTheSystemDrawsAWindow) {
+  const auto window = contract::AddUnawareWindow();
+  const auto button = AddForeignWindow({.className = "Button", .parent = window});
+  platform::Rect rect;
+  ASSERT_TRUE(platform::GetWindowRect(window, rect));
+  EXPECT_DOUBLE_EQ(platform::WindowScale(window), (rect.right - rect.left) / 300.0);
+  EXPECT_EQ(platform::WindowScale(button), platform::WindowScale(window));
+  EXPECT_EQ(platform::WindowScale(contract::AddOwnWindow("eigenes")), 1);
 }
 
 }  // namespace

@@ -69,6 +69,9 @@ struct Window {
   bool visible = true;
   bool enabled = true;
   Rect rectangle = {};  // screen pixels
+  // Of a top-level window: its program knows the resolution of the screen. One that does not is drawn larger on screens
+  // of more than 96 dots to the inch.
+  bool knowsResolution = true;
   // A "Button" is a push button unless its style says otherwise; a "ThunderRT6CheckBox" is a check box and a
   // "ThunderRT6OptionButton" an option without any style.
   std::uint32_t style = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/simulated/controls.h"
+#include "platform/system.h"
 #include "runtime/text.h"
 
 namespace platform {
@@ -122,6 +123,13 @@ bool GetWindowRect(std::int32_t hWnd, Rect& lpRect) {
   if (window == nullptr || Fails("GetWindowRect")) return false;
   lpRect = window->rectangle;
   return true;
+}
+
+double WindowScale(std::int32_t hWnd) {
+  constexpr double kUnawareTwips = 15;  // to the pixel, at 96 dots to the inch
+  const Window* window = Find(hWnd);
+  while (window != nullptr && window->parent != 0) window = Find(window->parent);
+  return window == nullptr || window->knowsResolution ? 1 : kUnawareTwips / TwipsPerPixelX();
 }
 
 }  // namespace platform

@@ -1,6 +1,10 @@
 #include "platform/window_lookup.h"
 
 #include <algorithm>
+#include <array>
+
+#include "platform/system.h"
+#include "platform/win32/late_binding.h"
 
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
@@ -16,6 +20,37 @@ std::int32_t Fill(std::string& text, std::int32_t size, Query query) {
   const int length = query(text.data(), static_cast<int>(text.size()));
   text.resize(static_cast<std::size_t>(length));
   return length;
+}
+
+// Lets the system convert a point of a window; false where it lacks the function or refuses the point.
+bool Convert(const char* function, HWND hWnd, POINT& point) {
+  const auto convert = BindIfThere<BOOL WINAPI(HWND, POINT*)>("user32.dll", function);
+  return convert != nullptr && convert(hWnd, &point);
+}
+
+// From Vista to Windows 8 a rectangle comes in the pixels of its own window, and this function makes screen pixels of
+// them. From 8.1 on it comes in those of the caller, and the function changes nothing
+// (learn.microsoft.com, LogicalToPhysicalPointForPerMonitorDPI).
+constexpr char kToScreen[] = "LogicalToPhysicalPoint";
+// Windows 8.1 and later.
+constexpr char kFromScreen[] = "PhysicalToLogicalPointForPerMonitorDPI";
+
+bool IsDrawnLarger(HWND hWnd) {
+  RECT rect;
+  if (!::GetWindowRect(hWnd, &rect)) return false;
+  const POINT middle{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+  return std::ranges::any_of(std::array{kToScreen, kFromScreen}, [&](const char* function) {
+    POINT point = middle;
+    return Convert(function, hWnd, point) && (point.x != middle.x || point.y != middle.y);
+  });
+}
+
+// Dots to the inch that the window's program counts with; 0 where they are those of the screen.
+double OwnResolution(HWND hWnd) {
+  constexpr double kUnaware = 96;
+  // Windows 10 1607 and later.
+  if (const auto resolution = BindIfThere<UINT WINAPI(HWND)>("user32.dll", "GetDpiForWindow")) return resolution(hWnd);
+  return IsDrawnLarger(hWnd) ? kUnaware : 0;
 }
 
 }  // namespace
@@ -73,8 +108,18 @@ std::uint32_t GetWindowThreadProcessId(std::int32_t hWnd, std::uint32_t& lpdwPro
 bool GetWindowRect(std::int32_t hWnd, Rect& lpRect) {
   RECT rect;
   if (!::GetWindowRect(HandleOf<HWND>(hWnd), &rect)) return false;
+  POINT topLeft{rect.left, rect.top};
+  POINT bottomRight{rect.right, rect.bottom};
+  if (Convert(kToScreen, HandleOf<HWND>(hWnd), topLeft) && Convert(kToScreen, HandleOf<HWND>(hWnd), bottomRight))
+    rect = {topLeft.x, topLeft.y, bottomRight.x, bottomRight.y};
   lpRect = {rect.left, rect.top, rect.right, rect.bottom};
   return true;
+}
+
+double WindowScale(std::int32_t hWnd) {
+  constexpr double kTwipsToTheInch = 1440;
+  const double resolution = OwnResolution(HandleOf<HWND>(hWnd));
+  return resolution == 0 ? 1 : kTwipsToTheInch / resolution / TwipsPerPixelX();
 }
 
 }  // namespace platform

@@ -1,6 +1,7 @@
 // The walk over the client list.
 #include "clients/client_list.h"
 
+#include <algorithm>
 #include <functional>
 
 #include "automation/state.h"

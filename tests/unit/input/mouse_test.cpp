@@ -1,7 +1,9 @@
 // The mouse verbs.
 #include "input/mouse.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <map>
 
 #include "automation/state.h"
 #include "engine/state.h"
@@ -246,6 +248,51 @@ TEST_F(MouseTest, MoveToAControlWhosePlaceIsUnknownGoesToTheCorner) {
   Fail("GetWindowRect");
   EXPECT_TRUE(RunLines({"MOUSEMOVETOCTL=Button,"}));
   EXPECT_EQ(InputLog(), Lines{"SetCursorPos 5 5"});
+}
+
+// Scaled windows, at 96, 120, 144 and 192 dots to the inch.
+
+struct Screen {
+  double twips;       // per pixel
+  std::int32_t left, top;  // of the window as it is seen, 100 and 40 in its own pixels
+  std::int32_t dx, dy;
+};
+
+TEST_F(MouseTest, AnOffsetIntoAScaledWindowHitsTheSamePlaceOfItAtEveryResolution) {
+  // 120 and 80 in the window's pixels: 120 / 1024 * 65535 is 7679.9, 80 / 768 * 65535 is 6826.6, and so on.
+  for (const Screen& screen : {Screen{15, 100, 40, 7680, 6827}, Screen{12, 125, 50, 9600, 8533},
+                               Screen{10, 150, 60, 11520, 10240}, Screen{7.5, 200, 80, 15360, 13653}}) {
+    SetTwipsPerPixel(screen.twips, screen.twips);
+    const auto window = Form("Zahlungen", screen.left, screen.top);
+    At(window).knowsResolution = false;
+    InputLog().clear();
+    EXPECT_TRUE(RunLines({"MOUSECLICKBYWINDOWOFFSET=Zahlungen,LEFT,20,40"}));
+    EXPECT_EQ(InputLog(), LeftAt(screen.dx, screen.dy)) << screen.twips;
+    DestroyWindow(window);
+  }
+}
+
+TEST_F(MouseTest, AnOffsetIntoAWindowThatKnowsTheResolutionCountsPixelsOfTheScreen) {
+  SetTwipsPerPixel(10, 10);
+  Form("Zahlungen", 150, 60);
+  EXPECT_TRUE(RunLines({"MOUSECLICKBYWINDOWOFFSET=Zahlungen,LEFT,20,40"}));
+  EXPECT_EQ(InputLog(), LeftAt(10880, 8533));  // 170 / 1024 * 65535 is 10879.8, 100 / 768 * 65535 is 8533.2
+}
+
+TEST_F(MouseTest, MoveToAControlOfAScaledWindowGoesFiveOfItsPixelsInside) {
+  const auto window = support::TargetWindow("TeRu");
+  AddWindow({.className = "Button", .parent = window, .rectangle = {300, 450, 420, 486}});
+  At(window).knowsResolution = false;
+  // 5 pixels are 5, 6.25, 7.5 and 10 on the screen.
+  for (const auto& [twips, inside] : std::map<double, std::int32_t>{{15, 5}, {12, 6}, {10, 8}, {7.5, 10}}) {
+    SetTwipsPerPixel(twips, twips);
+    InputLog().clear();
+    EXPECT_TRUE(RunLines({"MOUSEMOVETOCTL=Button"}));
+    const std::string x = std::to_string(300 + inside);
+    const std::string y = std::to_string(450 + inside);
+    EXPECT_EQ(InputLog(), Lines{"SetCursorPos " + x + " " + y});
+    EXPECT_EQ(std::ranges::count(Log(), "Maus an Koordinate bewegt: " + x + "/" + y), 1);
+  }
 }
 
 }  // namespace
