@@ -75,7 +75,7 @@ struct Cost {
 
 Cost Measure(const std::string& table, bool (*verb)()) {
   simulated::Clipboard() = table;
-  if (platform::FileExists(kFile)) platform::DeleteFileA(kFile);
+  if (platform::FileExists(kFile)) platform::DeleteFileW(kFile);
   const std::size_t before = held;
   most = held;
   const auto start = std::chrono::steady_clock::now();
