@@ -63,7 +63,7 @@ void Register(const std::string& name, bool (*verb)()) {
                   [verb](benchmark::State& state, int lines) {
                     const std::string table = Table(lines);
                     simulated::Clipboard() = table;
-                    if (platform::FileExists(kFile)) platform::DeleteFileA(kFile);
+                    if (platform::FileExists(kFile)) platform::DeleteFileW(kFile);
                     const std::size_t before = held;
                     most = held;
                     bool done = false;

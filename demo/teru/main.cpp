@@ -23,7 +23,7 @@ struct Options {
 
 Options ReadCommandLine() {
   const teru::Firm& firm = teru::OurFirm();
-  Options options{"TeRu - " + firm.consultant + " / " + firm.number + " / " + firm.year + " / Finanzbuchhaltung", ""};
+  Options options{"TeRu - " + firm.consultant + "/" + firm.number + "/" + firm.year + "/Finanzbuchhaltung", ""};
   for (int i = 1; i + 1 < __argc; i += 2) {
     std::string option = __argv[i];
     if (option == "--caption") options.caption = __argv[i + 1];

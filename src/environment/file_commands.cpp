@@ -1,7 +1,7 @@
 #include "environment/file_commands.h"
 
-#include <array>
 #include <cstdint>
+#include <vector>
 
 #include "automation/window_search.h"
 #include "engine/standard_handler.h"
@@ -38,18 +38,18 @@ std::string GetFolderPart(const std::string& path) {
 
 // The files that are waited for.
 struct FileList {
-  std::array<std::string, 100> paths;
-  std::size_t count = 0;
+  std::vector<platform::FilePath> paths;
 
-  void Add(const std::string& path) {
-    if (count >= paths.size()) throw runtime::Fault(runtime::FaultNumber::OutOfRange);
-    paths[count++] = path;
+  void Add(const platform::FilePath& path) {
+    constexpr std::size_t kMost = 100;
+    if (paths.size() == kMost) throw runtime::Fault(runtime::FaultNumber::OutOfRange);
+    paths.push_back(path);
   }
 };
 
 // One look for the files; true when there is one. The name part of a pattern plays no role.
 bool FindFiles(const std::string& file, FileList& list) {
-  list.count = 0;
+  list.paths.clear();
   if (!runtime::Contains(file, "*")) {
     list.Add(file);
     return FileSystem().FileExists(file);
@@ -57,11 +57,11 @@ bool FindFiles(const std::string& file, FileList& list) {
   const std::string extension = GetExtension(file);
   for (const FolderFile& found : FileSystem().FilesOf(GetFolderPart(file)))
     if (GetExtension(found.Name) == extension) list.Add(found.Path);
-  return list.count > 0;
+  return !list.paths.empty();
 }
 
 // Waits until two sizes that are read 1.5 seconds apart are equal.
-void WaitUntilFinished(const std::string& path) {
+void WaitUntilFinished(const platform::FilePath& path) {
   while (FileSystem().FileExists(path)) {
     const std::int32_t size = FileSystem().SizeOf(path);
     forms::Pump();
@@ -69,7 +69,7 @@ void WaitUntilFinished(const std::string& path) {
     platform::Sleep(1500);
     if (FileSystem().SizeOf(path) == size || run.StopRun) return;
   }
-  LogWrite(Text(TextId::FileGone) + path);
+  LogWrite(Text(TextId::FileGone) + path.Text());
 }
 
 }  // namespace
@@ -158,7 +158,7 @@ bool WaitForFile(const std::string& file) {
       forms::Pump();
       platform::Sleep(500);
     } while (!found && !run.StopRun);
-    for (std::size_t i = 0; i < list.count; ++i) WaitUntilFinished(list.paths[i]);
+    for (const platform::FilePath& path : list.paths) WaitUntilFinished(path);
     return true;
   });
 }

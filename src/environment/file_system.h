@@ -51,16 +51,17 @@ class TextStream {
 };
 
 struct FolderFile {
-  std::string Name;
-  std::string Path;
+  std::string Name;         // "?" for what the code page lacks
+  platform::FilePath Path;  // by which it is found again
 };
 
 // Read-only files and folders go with a deleted folder; everywhere else they are refused. Whatever the system refuses
-// is a fault, and what was done before it stays done.
+// is a fault, and what was done before it stays done. A folder in which a name is found that would lead out of it is
+// refused untouched, as BadFileName.
 class FileSystemObject {
  public:
-  bool FileExists(const std::string& path) const;
-  bool FolderExists(const std::string& path) const;
+  bool FileExists(const platform::FilePath& path) const;
+  bool FolderExists(const platform::FilePath& path) const;
 
   // Opens an existing file to read it, or to append to it.
   std::unique_ptr<TextStream> OpenTextFile(const std::string& path, platform::FileMode mode) const;
@@ -73,7 +74,7 @@ class FileSystemObject {
   std::vector<FolderFile> FilesOf(const std::string& folder) const;
 
   // Bytes, as a 32-bit number. Faults: FileNotFound; Overflow for a larger file.
-  std::int32_t SizeOf(const std::string& path) const;
+  std::int32_t SizeOf(const platform::FilePath& path) const;
 
   // Deletes the files, not the folders, that fit the last name of the path, which may hold * and ?. Faults:
   // FileNotFound when there is none.

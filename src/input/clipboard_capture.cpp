@@ -54,7 +54,7 @@ std::string Capture(const std::string& path, std::string (*textToWrite)(), Conve
   file = platform::OpenFile(path, FileMode::Read);
   std::string result = convert(ReadToEnd(file, path));
   platform::CloseFile(file);
-  platform::DeleteFileA(path);
+  platform::DeleteFileW(path);
   return result;
 }
 

@@ -7,12 +7,26 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace platform {
 
-bool FileExists(const std::string& path);
-bool FolderExists(const std::string& path);
+// A path, or a name alone, in the system's own 16-bit characters. The program's text becomes one without loss. A name
+// that was found on a disk stays one: the code page lacks some characters and makes a separator of others.
+struct FilePath {
+  FilePath(const char* text) : FilePath(std::string(text)) {}
+  FilePath(const std::string& text);
+  FilePath(std::u16string wide) : characters(std::move(wide)) {}
+
+  // Not to find the file again: what the code page lacks becomes "?".
+  std::string Text() const;
+
+  std::u16string characters;
+};
+
+bool FileExists(const FilePath& path);
+bool FolderExists(const FilePath& path);
 
 enum class FileMode {
   Read,       // must exist
@@ -33,7 +47,7 @@ void WriteFile(std::int32_t hFile, std::string_view bytes);
 void CloseFile(std::int32_t hFile);
 
 // Bytes.
-std::int64_t FileSize(const std::string& path);
+std::int64_t FileSize(const FilePath& path);
 
 constexpr std::uint32_t FILE_ATTRIBUTE_READONLY = 0x1;
 constexpr std::uint32_t FILE_ATTRIBUTE_DIRECTORY = 0x10;
@@ -41,31 +55,31 @@ constexpr std::uint32_t FILE_ATTRIBUTE_NORMAL = 0x80;
 constexpr std::uint32_t FILE_ATTRIBUTE_REPARSE_POINT = 0x400;
 
 struct FoundFile {
-  std::string cFileName;  // the name alone
+  std::u16string cFileName;  // the name alone
   std::uint32_t dwFileAttributes = 0;
 };
 
 // The files and folders whose name fits the last name of the path, which may hold * and ?, in the system's order. "*.*"
 // fits all. None when the name is missing or the path ends in a backslash; a missing folder is a fault.
-std::vector<FoundFile> FindFiles(const std::string& lpFileName);
+std::vector<FoundFile> FindFiles(const FilePath& lpFileName);
 
 // Gives a file or folder these attributes; of those above only FILE_ATTRIBUTE_READONLY can be changed.
-void SetFileAttributesA(const std::string& lpFileName, std::uint32_t dwFileAttributes);
+void SetFileAttributesW(const FilePath& lpFileName, std::uint32_t dwFileAttributes);
 
 // Deletes one file. A read-only file, an open one and a folder are refused.
-void DeleteFileA(const std::string& lpFileName);
+void DeleteFileW(const FilePath& lpFileName);
 
 // Copies one file with its attributes; lpNewFileName is the new file's whole path. A folder is refused on either side.
-void CopyFileA(const std::string& lpExistingFileName, const std::string& lpNewFileName, bool bFailIfExists);
+void CopyFileW(const FilePath& lpExistingFileName, const FilePath& lpNewFileName, bool bFailIfExists);
 
 // Gives a file or folder a new path that must not exist. A folder stays on its drive.
-void MoveFileA(const std::string& lpExistingFileName, const std::string& lpNewFileName);
+void MoveFileW(const FilePath& lpExistingFileName, const FilePath& lpNewFileName);
 
 // Makes one folder, which must not exist.
-void CreateDirectoryA(const std::string& lpPathName);
+void CreateDirectoryW(const FilePath& lpPathName);
 
 // Removes an empty folder. One that holds something raises PathAccess.
-void RemoveDirectoryA(const std::string& lpPathName);
+void RemoveDirectoryW(const FilePath& lpPathName);
 
 // Makes all missing directories of a path that ends in a backslash. False when the system refuses. Faults:
 // FunctionMissing without the library that holds it, imagehlp.dll.

@@ -40,23 +40,7 @@ std::string FromUtf16(std::u16string_view text) {
   return bytes;
 }
 
-std::string ToUtf8(std::string_view text) {
-  std::string result;
-  for (const char16_t code : ToUtf16(text)) {
-    if (code < 0x80) {
-      result += static_cast<char>(code);
-    } else if (code < 0x800) {
-      result += {static_cast<char>(0xC0 | code >> 6), static_cast<char>(0x80 | (code & 0x3F))};
-    } else {
-      result += {static_cast<char>(0xE0 | code >> 12), static_cast<char>(0x80 | (code >> 6 & 0x3F)),
-                 static_cast<char>(0x80 | (code & 0x3F))};
-    }
-  }
-  return result;
-}
-
-std::string FromUtf8(std::string_view text) {
-  constexpr unsigned kLacking = 0xFFFD;  // for what does not fit 16 bits, which the code page lacks anyhow
+std::u16string Utf8ToUtf16(std::string_view text) {
   std::u16string characters;
   for (std::size_t i = 0; i < text.size();) {
     const auto lead = static_cast<unsigned char>(text[i]);
@@ -64,9 +48,32 @@ std::string FromUtf8(std::string_view text) {
     unsigned code = length == 1 ? lead : lead & (0x7Fu >> length);
     for (std::size_t k = 1; k < length && i + k < text.size(); ++k)
       code = code << 6 | (static_cast<unsigned char>(text[i + k]) & 0x3F);
-    characters += static_cast<char16_t>(code > 0xFFFF ? kLacking : code);
+    if (code > 0xFFFF) characters += static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10 & 0x3FF));
+    characters += static_cast<char16_t>(code > 0xFFFF ? 0xDC00 + (code & 0x3FF) : code);
     i += length;
   }
+  return characters;
+}
+
+std::string Utf16ToUtf8(std::u16string_view text) {
+  std::string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    unsigned code = text[i];
+    if (code >= 0xD800 && code < 0xDC00 && i + 1 < text.size() && (text[i + 1] & 0xFC00) == 0xDC00)
+      code = 0x10000 + ((code & 0x3FF) << 10 | (text[++i] & 0x3FFu));
+    const std::size_t following = code < 0x80 ? 0 : code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+    constexpr unsigned kLeads[] = {0, 0xC0, 0xE0, 0xF0};
+    result += static_cast<char>(kLeads[following] | code >> 6 * following);
+    for (std::size_t k = following; k > 0; --k) result += static_cast<char>(0x80 | (code >> 6 * (k - 1) & 0x3F));
+  }
+  return result;
+}
+
+std::string ToUtf8(std::string_view text) { return Utf16ToUtf8(ToUtf16(text)); }
+
+std::string FromUtf8(std::string_view text) {
+  std::u16string characters = Utf8ToUtf16(text);
+  std::erase_if(characters, [](char16_t c) { return (c & 0xFC00) == 0xDC00; });  // a pair is one character
   return FromUtf16(characters);
 }
 

@@ -24,7 +24,7 @@ STARS = "*" * 80
 # Seconds; a run has its prescribed pauses besides.
 RUN_PATIENCE = 3 * PATIENCE
 COMPLETED = "Die Verarbeitung ist erfolgreich abgeschlossen."
-CAPTION = "TeRu - 0012 / 4711 / 2005 / Finanzbuchhaltung"
+CAPTION = "TeRu - 0012/4711/2005/Finanzbuchhaltung"
 # The notification area and an icon in it, in Wine 8 and in Wine 10. The area's class in Wine 10 is that of Windows.
 TRAY_CLASSES = {"__winex11_standalone_tray", "Shell_TrayWnd"}
 ICON_CLASSES = {"__winex11_tray_icon", "__wine_tray_icon"}
@@ -99,19 +99,19 @@ class EndToEndTest(unittest.TestCase):
         main = self.probe.window(caption)
         return main, self.probe.window("GDPdU-Export", where=lambda window: window.process == main.process)
 
-    def start_program_asking(self):
+    def start_program_asking(self, name=PROGRAM):
         """Starts the program, which is going to show a message box before it waits."""
-        if not (self.folder / PROGRAM).exists():
-            shutil.copy(WINDOWS_BUILD / PROGRAM, self.folder)
-        self.start(self.folder / PROGRAM)
+        if not (self.folder / name).exists():
+            shutil.copy(WINDOWS_BUILD / PROGRAM, self.folder / name)
+        self.start(self.folder / name)
 
-    def start_program(self):
+    def start_program(self, name=PROGRAM):
         """Starts the program, waits until it waits for the hot key, and yields its process id."""
-        before = self.probe.processes(PROGRAM)
-        self.start_program_asking()
+        before = self.probe.processes(name)
+        self.start_program_asking(name)
 
         def new():
-            return [process for process in self.probe.processes(PROGRAM) if process not in before]
+            return [process for process in self.probe.processes(name) if process not in before]
 
         process = wait_until(new, "the start of the program")[0]
         # It answers a message when it has come to wait for messages, behind the registration of the hot key.

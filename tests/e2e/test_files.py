@@ -127,16 +127,65 @@ class FilesTest(EndToEndTest):
         self.assertEqual(log[-2:], [f"{MADE}\\", f"CopyFile {DATA}\\a.txt To \\"])
         self.assertTrue(copy.exists())
 
+    # Names outside the code page. The wide backslash, U+FF3C, becomes a backslash in it.
+
+    def lay_foreign(self):
+        """A folder with a file and a folder whose names point out of it, and what they point to."""
+        self.put("victim.txt")
+        self.put("opfer\\a.txt")
+        folder = self.data / "x"
+        (folder / "..\uff3copfer").mkdir(parents=True)
+        for path in (folder / "..\uff3cvictim.txt", folder / "..\uff3copfer" / "Łódź.txt"):
+            path.write_text("x")
+        return folder
+
+    def assert_victims_stay(self):
+        self.assertEqual(self.names("opfer"), ["a.txt"])
+        self.assertIn("victim.txt", self.names())
+
+    def test_what_is_deleted_lies_in_the_named_folder(self):
+        folder = self.lay_foreign()
+        log = self.run_macro(f"DELETEFILE={DATA}\\x\\*.*")
+        self.assertEqual(log, [f"Dateien gelöscht: {DATA}\\x\\*.*"])
+        self.assertEqual([path.name for path in folder.iterdir()], ["..\uff3copfer"])
+        self.assert_victims_stay()
+        self.begin_macro(f"DELETEFOLDER={DATA}\\x")
+        self.wait_run_ended(2)
+        self.assertFalse(folder.exists())
+        self.assert_victims_stay()
+
+    def test_copies_keep_names_that_the_code_page_lacks(self):
+        self.lay_foreign()
+        self.run_macro(f"COPYFOLDER={DATA}\\x,{DATA}\\y", f"COPYFILE={DATA}\\y\\..\\x\\*.*,{DATA}\\z\\",
+                       f"RENAMEPATH={DATA}\\y,{DATA}\\neu")
+        self.assertEqual(self.names("neu"), ["..\uff3copfer", "..\uff3cvictim.txt"])
+        self.assertEqual(self.names("neu\\..\uff3copfer"), ["Łódź.txt"])
+        self.assertEqual(self.names("z"), ["..\uff3cvictim.txt"])
+        self.assert_victims_stay()
+
+    def test_the_9x_family_refuses_a_folder_whose_names_lead_out_of_it(self):
+        folder = self.lay_foreign()
+        key = "HKCU\\Software\\Wine\\AppDefaults\\QUMA98.EXE"
+        self.desktop.command(["wine", "reg", "add", key, "/v", "Version", "/d", "win98", "/f"])
+        self.addCleanup(self.desktop.command, ["wine", "reg", "delete", key, "/f"])
+        self._started[0].kill()
+        wait_until(lambda: not self.probe.processes(PROGRAM), "the end of the program")
+        self.start_program("QUMA98.EXE")
+        log = self.fail_macro(f"DELETEFOLDER={DATA}\\x")
+        self.assertEqual(log, [f"Fehler in Funktion DeleteFolder:Falscher Dateiname ({DATA}\\x)"])
+        self.assertEqual(len(list(folder.iterdir())), 2)
+        self.assert_victims_stay()
+
     # Files that are read
 
     def test_the_folder_in_mandanten_txt_takes_the_place_of_the_year(self):
         record = ";" * 17 + "Prüfung Ä;mehr"
-        path = self.desktop.host_path("C:\\TeRu\\Extern\\ 4711 \\ 2005\\Mandanten.txt")
+        path = self.desktop.host_path("C:\\TeRu\\Extern\\4711\\2005\\Mandanten.txt")
         path.parent.mkdir(parents=True)
         path.write_bytes(f"Überschrift\r\n{record}\r\n".encode(CODE_PAGE))
         log = self.run_macro("MSG=$MANDANTPATH")
         self.assertEqual(
-            log[-2:], [f"{MADE}C:\\TeRu\\Extern\\ 4711 \\ 2005\\", "MSG: C:\\TeRu\\Extern\\ 4711 \\ Prüfung Ä"]
+            log[-2:], [f"{MADE}C:\\TeRu\\Extern\\4711\\2005\\", "MSG: C:\\TeRu\\Extern\\4711\\Prüfung Ä"]
         )
 
     def test_the_records_of_a_file_are_walked_to_its_end(self):

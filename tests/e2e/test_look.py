@@ -91,7 +91,7 @@ class Look:
         self.lay_macro("MSG=1\n", name="QUMAFIBU.MAK")
         self.start_teru()
         self.press()
-        self.shoot("client dialog", self.dialog("Mandant:", " 4711 "), default="OK")
+        self.shoot("client dialog", self.dialog("Mandant:", "4711"), default="OK")
 
     def test_client_dialog_without_client(self):
         self.start_program()

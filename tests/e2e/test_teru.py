@@ -20,7 +20,7 @@ class TeruTest(EndToEndTest):
 
     def test_windows_are_those_that_macros_look_for(self):
         main, dialog = self.start_teru()
-        self.assertEqual(main.text, "TeRu - 0012 / 4711 / 2005 / Finanzbuchhaltung")
+        self.assertEqual(main.text, "TeRu - 0012/4711/2005/Finanzbuchhaltung")
         self.assertEqual(main.class_name, "ThunderRT6FormDC")
         self.assertEqual(dialog.class_name, "ThunderRT6FormDC")
         self.assertEqual(self.probe.control(dialog, PATH_BOX).class_name, "ThunderRT6Textbox")

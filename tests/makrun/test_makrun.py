@@ -172,7 +172,7 @@ class MakrunTest(MakrunCase):
     # --- options
 
     def test_without_a_desktop_there_is_one_main_window(self):
-        macro = self.macro("IF ACTIVEWINDOW=TeRu - 0012 / 4711 / 2005 / Probelauf", "MSG=ja", "ENDIF")
+        macro = self.macro("IF ACTIVEWINDOW=TeRu - 0012/4711/2005/Probelauf", "MSG=ja", "ENDIF")
         self.assertEqual(self.makrun(macro), ["MSG: ja", *COMPLETED])
 
     def test_the_caption_can_be_chosen(self):
@@ -249,7 +249,15 @@ class MakrunTest(MakrunCase):
 
     def test_a_dialog_without_an_answer_is_confirmed(self):
         log = self.makrun("--press", self.client_macro())
-        self.assertIn("Mandant:  4711 ", log)
+        self.assertIn("Mandant: 4711", log)
+
+    def test_a_folder_that_ends_in_a_blank_is_told_once(self):
+        macro = self.macro("MSG=$PATH", "MSG=$GDPDUPATH")
+        told = "C:\\TeRu\\Extern\\ 4711 "
+        self.makrun("--caption", "TeRu - 0012 / 4711 / 2005 / x", macro)
+        self.assertEqual(self.errors.count(f'"{told}"'), 1, self.errors)
+        self.makrun(macro)
+        self.assertEqual(self.errors, "")
 
     def test_answers_fill_the_dialog(self):
         log = self.makrun("--press", "--answer", "frmInputbox.txtMandant=ü=1", "--answer", "frmInputbox.txtJahr=2004",

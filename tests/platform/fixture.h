@@ -75,6 +75,9 @@ std::string ReadWhole(const std::string& path);
 // False where the system lets this user write it all the same.
 bool MakeReadOnly(const std::string& path);
 
+// Whether the system is Wine, for what Windows is documented to do otherwise.
+bool IsWine();
+
 // A path in the empty folder.
 inline std::string Path(const std::string& name) { return ScratchFolder() + "\\" + name; }
 // The path with short names for its long ones.

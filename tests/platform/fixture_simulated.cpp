@@ -97,6 +97,8 @@ bool MakeReadOnly(const std::string& path) {
   return true;
 }
 
+bool IsWine() { return false; }
+
 std::string ShortPath(const std::string& path) { return platform::simulated::ShortPath(path); }
 
 void SetVariable(const std::string& name, const std::string& value) {

@@ -7,6 +7,7 @@
 
 #include "fixture.h"
 #include "platform/win32/late_binding.h"
+#include "runtime/code_page.h"
 
 // The system's headers come last.
 #include <windows.h>
@@ -169,24 +170,29 @@ std::vector<std::int32_t> ownWindows;
 std::string scratchFolder;
 
 // Whatever a test has left in it, also what must not be written; a link goes without what it leads to.
-void RemoveFolder(const std::string& folder) {
-  WIN32_FIND_DATAA found;
-  const HANDLE search = ::FindFirstFileA((folder + "\\*").c_str(), &found);
+void RemoveFolder(const std::wstring& folder) {
+  WIN32_FIND_DATAW found;
+  const HANDLE search = ::FindFirstFileW((folder + L"\\*").c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return;
   do {
-    const std::string name = found.cFileName;
-    if (name == "." || name == "..") continue;
-    const std::string path = folder + "\\" + name;
+    const std::wstring name = found.cFileName;
+    if (name == L"." || name == L"..") continue;
+    const std::wstring path = folder + L"\\" + name;
     const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     const bool isLink = (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-    ::SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    ::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     if (isFolder && !isLink) RemoveFolder(path);
-    else if (isFolder) ::RemoveDirectoryA(path.c_str());
-    else ::DeleteFileA(path.c_str());
-  } while (::FindNextFileA(search, &found));
+    else if (isFolder) ::RemoveDirectoryW(path.c_str());
+    else ::DeleteFileW(path.c_str());
+  } while (::FindNextFileW(search, &found));
   ::FindClose(search);
   // The separator keeps a blank at the end of the name.
-  ::RemoveDirectoryA((folder + "\\").c_str());
+  ::RemoveDirectoryW((folder + L"\\").c_str());
+}
+
+void RemoveFolder(const std::string& folder) {
+  const std::u16string wide = runtime::ToUtf16(folder);
+  RemoveFolder(std::wstring(wide.begin(), wide.end()));
 }
 
 // The system removes only keys without any below them.
@@ -300,6 +306,8 @@ bool MakeReadOnly(const std::string& path) {
   ::CloseHandle(file);
   return false;
 }
+
+bool IsWine() { return ::GetProcAddress(::GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr; }
 
 std::string ShortPath(const std::string& path) {
   char shortPath[MAX_PATH] = "";

@@ -69,6 +69,35 @@ TEST_F(SectionFile, CommentLinesAreNoKeys) {
   EXPECT_EQ(Read("Eins", "Key"), "b;c");
 }
 
+TEST_F(SectionFile, KeyThatBeginsWithASemicolonIsReadByThatName) {
+  Write("[Eins]\r\n;Key=a\r\n; Zweiter=b\r\n");
+  EXPECT_EQ(Read("Eins", ";Key"), "a");
+  EXPECT_EQ(Read("Eins", "; Zweiter"), "b");
+  EXPECT_EQ(Read("Eins", ";Zweiter", "keiner"), "keiner");
+  EXPECT_EQ(Read("Eins", "Zweiter", "keiner"), "keiner");
+  EXPECT_TRUE(Set("Eins", ";Key", "neu"));
+  EXPECT_EQ(Read("Eins", ";Key"), "neu");
+  EXPECT_EQ(contract::ReadWhole(File()).find("=a"), std::string::npos) << "the line itself is changed";
+}
+
+TEST_F(SectionFile, BlanksAroundNamesDoNotCount) {
+  Write("[ Eins ]\r\nKey=a\r\n  [Zwei\t]  \r\n Key =b\r\n");
+  for (const char* section : {"Eins", " Eins ", "eins "}) EXPECT_EQ(Read(section, "Key"), "a") << section;
+  EXPECT_EQ(Read("Zwei", " Key "), "b");
+  EXPECT_EQ(Read("Ei ns", "Key", "keiner"), "keiner");
+  EXPECT_TRUE(Set(" Zwei ", " Key ", "c"));
+  EXPECT_EQ(Read("Zwei", "Key"), "c");
+  EXPECT_EQ(contract::ReadWhole(File()).find("b"), std::string::npos) << "the line itself is changed";
+}
+
+TEST_F(SectionFile, SectionsNameReachesToTheLastBracket) {
+  Write("[a]b]\r\nKey=1\r\n[c] d\r\nKey=2\r\n[e\r\nLetzter=3\r\n");
+  EXPECT_EQ(Read("a]b", "Key"), "1");
+  EXPECT_EQ(Read("a", "Key", "keiner"), "keiner");
+  EXPECT_EQ(Read("c", "Key"), "2");
+  EXPECT_EQ(Read("c", "Letzter"), "3") << "a line without the second bracket opens nothing";
+}
+
 TEST_F(SectionFile, FirstOfEqualKeysAndSectionsCounts) {
   Write("[Eins]\r\nKey=a\r\nKey=b\r\n[Eins]\r\nKey=c\r\nZweiter=d\r\n");
   EXPECT_EQ(Read("Eins", "Key"), "a");

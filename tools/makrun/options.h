@@ -19,7 +19,7 @@ struct Answer {
 struct Options {
   std::string macro;
   std::string desktop;  // empty: one main window
-  std::string caption = "TeRu - 0012 / 4711 / 2005 / Probelauf";
+  std::string caption = "TeRu - 0012/4711/2005/Probelauf";
   std::string ini;        // empty: QUMAEXP.INI beside the macro, if it is there
   std::string drive;      // empty: a temporary folder
   std::string clipboard;  // empty: nothing is on the clipboard

@@ -179,6 +179,8 @@ Rehearsal Rehearse(const Options& options) {
   result.log.assign(lines.begin() + static_cast<std::ptrdiff_t>(std::min(older, lines.size())), lines.end());
   for (const auto& box : simulated::MessageBoxes())
     result.notes.push_back(Say(say::kMessageBox, {simulated::ToUtf8(box.text)}));
+  if (const std::string& folder = simulated::FolderThatEndsInABlank(); !folder.empty())
+    result.notes.push_back(Say(say::kBlankEnd, {simulated::ToUtf8(folder)}));
   for (const Answer& answer : answers.Left())
     result.notes.push_back(Say(say::kNotAskedFor, {answer.form, answer.control}));
   return result;

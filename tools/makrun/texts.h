@@ -31,6 +31,11 @@ constexpr Text kTakesNoAnswer(u8"--answer: %1.%2 takes no answer", u8"--answer: 
 constexpr Text kNotAskedFor(u8"the answer %1.%2 was not asked for", u8"nach der Antwort %1.%2 hat niemand gefragt");
 
 // The end of a run.
+constexpr Text kBlankEnd(
+    u8"the folder \"%1\" ends in a blank: Windows of the NT family drops the blank when it makes the "
+    u8"folder, and can then make nothing below it",
+    u8"der Ordner \"%1\" endet mit einem Leerzeichen: Windows der NT-Familie lässt es beim Anlegen "
+    u8"weg und kann darunter dann nichts anlegen");
 constexpr Text kMessageBox(u8"message box: %1", u8"Meldung: %1");
 constexpr Text kNoRun(u8"the press started no run", u8"der Tastendruck hat keinen Lauf gestartet");
 constexpr Text kGivenUp(u8"given up: %1", u8"aufgegeben: %1");
@@ -124,7 +129,7 @@ constexpr Text kUsage(
     u8"Runs a macro on a simulated desktop and prints the log of the run.\n"
     u8"\n"
     u8"  --desktop FILE          the windows that the macro meets; without it one main window\n"
-    u8"  --caption TEXT          caption of that main window; default \"TeRu - 0012 / 4711 / 2005 / Probelauf\"\n"
+    u8"  --caption TEXT          caption of that main window; default \"TeRu - 0012/4711/2005/Probelauf\"\n"
     u8"  --ini FILE              settings; default QUMAEXP.INI beside the macro, none if it is not there\n"
     u8"  --drive DIR             folder that stands for drive C: and is kept; default a temporary one\n"
     u8"  --press                 start as the hot key does instead of running the macro directly\n"
@@ -149,7 +154,7 @@ constexpr Text kUsage(
     u8"Führt ein Makro auf einem simulierten Bildschirm aus und gibt das Protokoll des Laufs aus.\n"
     u8"\n"
     u8"  --desktop DATEI         die Fenster, auf die das Makro trifft; sonst ein Hauptfenster\n"
-    u8"  --caption TEXT          Titel dieses Hauptfensters; sonst \"TeRu - 0012 / 4711 / 2005 / Probelauf\"\n"
+    u8"  --caption TEXT          Titel dieses Hauptfensters; sonst \"TeRu - 0012/4711/2005/Probelauf\"\n"
     u8"  --ini DATEI             Einstellungen; sonst QUMAEXP.INI neben dem Makro, keine, wenn sie dort fehlt\n"
     u8"  --drive ORDNER          Ordner, der für Laufwerk C: steht und erhalten bleibt; sonst ein vorübergehender\n"
     u8"  --press                 beginnt wie die Tastenkombination, statt das Makro unmittelbar auszuführen\n"

@@ -203,6 +203,9 @@ std::string HostPath(const std::string& path);                    // of an exist
 void PutFile(const std::string& path, const std::string& bytes);  // makes missing folders
 std::string GetFile(const std::string& path);                     // empty when missing
 void SetApplicationPath(const std::string& path);
+// The first folder that was made under a name that ends in a blank, or nothing. Windows of the NT family drops the
+// blank when it makes the folder, but not inside a longer path, so that it then finds no folder of that name.
+const std::string& FolderThatEndsInABlank();
 // The path with the short names of 8 and 3 characters for all longer ones; of something that exists.
 std::string ShortPath(const std::string& path);
 // A variable of the environment; a fresh desktop has TEMP and TMP, C:\TEMP (not made). Empty: there is none.

@@ -48,7 +48,8 @@ bool RunFileDialog(const std::string& operation, OPENFILENAME& record) {
   record.lpstrFile.replace(0, path.size() + 1, path.c_str(), path.size() + 1);
   if (HasOtherExtension(path, record.lpstrDefExt)) record.Flags |= OFN_EXTENSIONDIFFERENT;
   // As the real dialog does: relative paths are looked for beside the file chosen last.
-  TheDesktop().currentDirectory = FolderOf(FullPath(path));
+  const std::string folder = FilePath(FolderOf(FullPath(path))).Text();
+  TheDesktop().currentDirectory = folder.size() > 3 ? folder.substr(0, folder.size() - 1) : folder;
   return true;
 }
 

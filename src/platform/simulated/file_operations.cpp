@@ -8,7 +8,6 @@
 #include "platform/simulated/host_paths.h"
 #include "platform/simulated/state.h"
 #include "runtime/fault.h"
-#include "runtime/text.h"
 
 namespace platform {
 namespace simulated {
@@ -17,31 +16,45 @@ namespace {
 using runtime::Fault;
 using runtime::FaultNumber;
 
-bool Matches(std::string_view name, std::string_view mask) {
-  // Where to go on when the letters behind the last asterisk don't fit.
-  std::size_t at = 0, m = 0, retry = 0, asterisk = std::string_view::npos;
-  while (at < name.size()) {
-    if (m < mask.size() && mask[m] == '*') {
-      asterisk = m++;
-      retry = at;
-    } else if (m < mask.size() && (mask[m] == '?' || mask[m] == name[at])) {
-      ++m;
-      ++at;
-    } else if (asterisk != std::string_view::npos) {
-      m = asterisk + 1;
-      at = ++retry;
-    } else {
-      return false;
+// The system's rules: an asterisk fits any number of characters; a question mark fits one that is no dot, and nothing
+// at the end and in front of a dot; a dot in front of either fits the end of the name too.
+bool Matches(std::u16string_view name, std::u16string_view mask) {
+  std::vector<bool> reached(mask.size() + 1);
+  reached[0] = true;
+  for (std::size_t at = 0;; ++at) {
+    const bool end = at == name.size();
+    for (std::size_t m = 0; m < mask.size(); ++m) {
+      const bool leads = m + 1 < mask.size() && (mask[m + 1] == u'*' || mask[m + 1] == u'?');
+      const bool fitsNothing =
+          mask[m] == u'*' || (mask[m] == u'?' && (end || name[at] == u'.')) || (mask[m] == u'.' && end && leads);
+      if (reached[m] && fitsNothing) reached[m + 1] = true;
     }
+    if (end) return reached.back();
+    std::vector<bool> next(mask.size() + 1);
+    for (std::size_t m = 0; m < mask.size(); ++m) {
+      if (!reached[m]) continue;
+      if (mask[m] == u'*') next[m] = true;
+      else if (mask[m] == u'?' ? name[at] != u'.' : mask[m] == name[at]) next[m + 1] = true;
+    }
+    reached = std::move(next);
   }
-  return mask.find_first_not_of('*', m) == std::string_view::npos;
 }
 
-bool Fits(const std::string& entry, const std::string& mask) {
-  return mask == "*.*" || Matches(runtime::ToUpper(entry), mask);
+// What a search looks for; the system drops dots and blanks from the end of a name, but not of a pattern.
+std::u16string MaskOf(std::u16string name) {
+  if (name.find_first_of(u"*?") == std::u16string::npos) name.erase(name.find_last_not_of(u". ") + 1);
+  return ToUpper(name);
 }
 
-std::uint32_t AttributesOf(const std::string& hostPath) {
+// A name as the 9x family finds it: the code page's character that looks most like it, for a wide form even a
+// separator.
+std::u16string InCodePage(std::u16string name) {
+  for (char16_t& c : name)
+    if (c >= 0xFF01 && c <= 0xFF5E) c = static_cast<char16_t>(c - 0xFEE0);
+  return FilePath(FilePath(name).Text()).characters;
+}
+
+std::uint32_t AttributesOf(const std::filesystem::path& hostPath) {
   std::error_code ignored;
   const std::filesystem::file_status status = std::filesystem::symlink_status(hostPath, ignored);
   if (!std::filesystem::exists(status)) return 0;
@@ -52,30 +65,34 @@ std::uint32_t AttributesOf(const std::string& hostPath) {
 }
 
 // The host path of something that must exist and is no drive.
-std::string Existing(const std::string& path) {
-  if (FullPath(path).ends_with('\\')) throw Fault(FaultNumber::AccessDenied);
-  const std::string host = HostPath(path);
+std::filesystem::path Existing(const FilePath& path) {
+  if (FullPath(path).ends_with(u'\\')) throw Fault(FaultNumber::AccessDenied);
+  const std::filesystem::path host = PathOnHost(path);
   if (AttributesOf(host) != 0) return host;
   const bool folder = KindOfPath(FolderOf(FullPath(path))) == Kind::Folder;
   throw Fault(folder ? FaultNumber::FileNotFound : FaultNumber::PathNotFound);
 }
 
-std::string FolderOfHost(const std::string& hostPath) { return hostPath.substr(0, hostPath.rfind('/')); }
-
 // The host path of something that is to be made in a folder that must exist and let it be made.
-std::string ToBeMade(const std::string& path) {
-  const std::string host = HostPath(path);
-  const std::string folder = FolderOfHost(host);
+std::filesystem::path ToBeMade(const FilePath& path) {
+  const std::filesystem::path host = PathOnHost(path);
+  const std::filesystem::path folder = host.parent_path();
   if (KindOf(folder) != Kind::Folder) throw Fault(FaultNumber::PathNotFound);
   if (KindOf(host) == Kind::None && IsReadOnly(folder)) throw Fault(FaultNumber::AccessDenied);
   return host;
 }
 
-bool IsOpen(const std::string& hostPath) {
+bool IsOpen(const std::filesystem::path& hostPath) {
   return std::ranges::any_of(TheDesktop().openFiles, [&](const auto& entry) {
     std::error_code ignored;
     return std::filesystem::equivalent(entry.second.Path(), hostPath, ignored);
   });
+}
+
+void NoteBlankEnds(const std::string& missing) {
+  std::string& noted = TheDesktop().folderThatEndsInABlank;
+  for (auto end = missing.find(" \\"); end != std::string::npos && noted.empty(); end = missing.find(" \\", end + 1))
+    if (KindOfPath(missing.substr(0, end + 2)) == Kind::None) noted = missing.substr(0, end + 1);
 }
 
 void RaiseIfFailed(const std::error_code& error) {
@@ -83,29 +100,33 @@ void RaiseIfFailed(const std::error_code& error) {
 }
 
 }  // namespace
+
+const std::string& FolderThatEndsInABlank() { return TheDesktop().folderThatEndsInABlank; }
+
 }  // namespace simulated
 
 using namespace simulated;
 
-std::vector<FoundFile> FindFiles(const std::string& lpFileName) {
+std::vector<FoundFile> FindFiles(const FilePath& lpFileName) {
   RaiseIfFailing("FindFiles");
-  if (lpFileName.empty()) throw Fault(FaultNumber::PathNotFound);
-  const std::size_t end = lpFileName.find_last_of("\\/:") + 1;
-  const std::string folder = HostPath(end == 0 ? "." : lpFileName.substr(0, end));
+  const std::u16string& path = lpFileName.characters;
+  if (path.empty()) throw Fault(FaultNumber::PathNotFound);
+  const std::size_t end = path.find_last_of(u"\\/:") + 1;
+  const std::filesystem::path folder = PathOnHost(end == 0 ? u"." : path.substr(0, end));
   if (KindOf(folder) != Kind::Folder) throw Fault(FaultNumber::PathNotFound);
-  std::string mask = runtime::ToUpper(lpFileName.substr(end));
-  if (mask.find_first_of("*?") == std::string::npos) mask.erase(mask.find_last_not_of(". ") + 1);
+  const std::u16string mask = MaskOf(path.substr(end));
   std::vector<FoundFile> files;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    const std::string name = FromHost(HostText(entry.path().filename()));
-    if (Fits(name, mask)) files.push_back({name, AttributesOf(HostText(entry.path()))});
+    std::u16string name = FromHost(entry.path().filename());
+    if (TheDesktop().platformId != VER_PLATFORM_WIN32_NT) name = InCodePage(name);
+    if (Matches(ToUpper(name), mask)) files.push_back({name, AttributesOf(entry.path())});
   }
-  std::ranges::sort(files, {}, [](const FoundFile& file) { return runtime::ToUpper(file.cFileName); });
+  std::ranges::sort(files, {}, [](const FoundFile& file) { return ToUpper(file.cFileName); });
   return files;
 }
 
-void SetFileAttributesA(const std::string& lpFileName, std::uint32_t dwFileAttributes) {
-  RaiseIfFailing("SetFileAttributesA");
+void SetFileAttributesW(const FilePath& lpFileName, std::uint32_t dwFileAttributes) {
+  RaiseIfFailing("SetFileAttributesW");
   using std::filesystem::perms;
   const bool readOnly = (dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
   std::error_code error;
@@ -116,20 +137,20 @@ void SetFileAttributesA(const std::string& lpFileName, std::uint32_t dwFileAttri
   RaiseIfFailed(error);
 }
 
-void DeleteFileA(const std::string& lpFileName) {
-  RaiseIfFailing("DeleteFileA");
-  const std::string host = Existing(lpFileName);
-  if (KindOf(host) == Kind::Folder || IsReadOnly(host) || IsReadOnly(FolderOfHost(host)) || IsOpen(host))
+void DeleteFileW(const FilePath& lpFileName) {
+  RaiseIfFailing("DeleteFileW");
+  const std::filesystem::path host = Existing(lpFileName);
+  if (KindOf(host) == Kind::Folder || IsReadOnly(host) || IsReadOnly(host.parent_path()) || IsOpen(host))
     throw Fault(FaultNumber::AccessDenied);
   std::error_code error;
   std::filesystem::remove(host, error);
   RaiseIfFailed(error);
 }
 
-void CopyFileA(const std::string& lpExistingFileName, const std::string& lpNewFileName, bool bFailIfExists) {
-  RaiseIfFailing("CopyFileA");
-  const std::string from = Existing(lpExistingFileName);
-  const std::string to = ToBeMade(lpNewFileName);
+void CopyFileW(const FilePath& lpExistingFileName, const FilePath& lpNewFileName, bool bFailIfExists) {
+  RaiseIfFailing("CopyFileW");
+  const std::filesystem::path from = Existing(lpExistingFileName);
+  const std::filesystem::path to = ToBeMade(lpNewFileName);
   if (KindOf(from) == Kind::Folder || KindOf(to) == Kind::Folder) throw Fault(FaultNumber::AccessDenied);
   if (KindOf(to) == Kind::File && bFailIfExists) throw Fault(FaultNumber::FileExists);
   if (from == to || IsReadOnly(to)) throw Fault(FaultNumber::AccessDenied);
@@ -138,12 +159,12 @@ void CopyFileA(const std::string& lpExistingFileName, const std::string& lpNewFi
   RaiseIfFailed(error);
 }
 
-void MoveFileA(const std::string& lpExistingFileName, const std::string& lpNewFileName) {
-  RaiseIfFailing("MoveFileA");
-  const std::string from = Existing(lpExistingFileName);
-  const std::string to = ToBeMade(lpNewFileName);
+void MoveFileW(const FilePath& lpExistingFileName, const FilePath& lpNewFileName) {
+  RaiseIfFailing("MoveFileW");
+  const std::filesystem::path from = Existing(lpExistingFileName);
+  const std::filesystem::path to = ToBeMade(lpNewFileName);
   if (KindOf(to) != Kind::None) throw Fault(FaultNumber::FileExists);
-  const bool inItself = to.starts_with(from + "/");
+  const bool inItself = std::ranges::mismatch(from, to).in1 == from.end();
   const bool otherDrive = FullPath(lpExistingFileName)[0] != FullPath(lpNewFileName)[0];
   if (inItself || (otherDrive && KindOf(from) == Kind::Folder)) throw Fault(FaultNumber::AccessDenied);
   std::error_code error;
@@ -151,21 +172,21 @@ void MoveFileA(const std::string& lpExistingFileName, const std::string& lpNewFi
   RaiseIfFailed(error);
 }
 
-void CreateDirectoryA(const std::string& lpPathName) {
-  RaiseIfFailing("CreateDirectoryA");
-  const std::string host = ToBeMade(lpPathName);
+void CreateDirectoryW(const FilePath& lpPathName) {
+  RaiseIfFailing("CreateDirectoryW");
+  const std::filesystem::path host = ToBeMade(lpPathName);
   if (KindOf(host) != Kind::None) throw Fault(FaultNumber::FileExists);
   std::error_code error;
   std::filesystem::create_directory(host, error);
   RaiseIfFailed(error);
 }
 
-void RemoveDirectoryA(const std::string& lpPathName) {
-  RaiseIfFailing("RemoveDirectoryA");
-  const std::string host = Existing(lpPathName);
+void RemoveDirectoryW(const FilePath& lpPathName) {
+  RaiseIfFailing("RemoveDirectoryW");
+  const std::filesystem::path host = Existing(lpPathName);
   const std::uint32_t attributes = AttributesOf(host);
   if ((attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) throw Fault(FaultNumber::BadFileName);
-  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0 || IsReadOnly(FolderOfHost(host)))
+  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0 || IsReadOnly(host.parent_path()))
     throw Fault(FaultNumber::AccessDenied);
   std::error_code error;
   std::filesystem::remove(host, error);  // of a link it takes the link
@@ -178,9 +199,10 @@ bool MakeSureDirectoryPathExists(const std::string& DirPath) {
   if (Fails("MakeSureDirectoryPathExists")) return false;
   const std::size_t end = DirPath.rfind('\\');
   if (end == std::string::npos) return true;
+  NoteBlankEnds(DirPath.substr(0, end + 1));
   try {
     std::error_code error;
-    std::filesystem::create_directories(HostPath(DirPath.substr(0, end + 1)), error);
+    std::filesystem::create_directories(PathOnHost(DirPath.substr(0, end + 1)), error);
     return !error;
   } catch (const Fault&) {
     return false;
@@ -193,7 +215,7 @@ std::uint32_t GetLongPathNameA(const std::string& lpszShortPath, std::string& lp
   if (nt ? desktop.majorVersion < 5 : desktop.minorVersion < 10) throw Fault(FaultNumber::FunctionMissing);
   lpszLongPath.clear();
   if (Fails("GetLongPathNameA") || KindOfPath(lpszShortPath) == Kind::None) return 0;
-  const std::string path = LongPath(lpszShortPath);
+  const std::string path = FilePath(LongPath(lpszShortPath)).Text();
   if (path.size() >= cchBuffer) return static_cast<std::uint32_t>(path.size()) + 1;
   lpszLongPath = path;
   return static_cast<std::uint32_t>(path.size());

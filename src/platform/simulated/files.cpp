@@ -31,9 +31,11 @@ const HostFile& OpenedFile(std::int32_t hFile) {
 
 // Bytes as they are, and no business of child processes.
 #ifdef _WIN32
-constexpr int kHostFlags = O_BINARY | O_NOINHERIT;
+int OpenHostFile(const std::filesystem::path& host, int flags) {
+  return ::_wopen(host.c_str(), flags | O_BINARY | O_NOINHERIT, 0666);
+}
 #else
-constexpr int kHostFlags = O_CLOEXEC;
+int OpenHostFile(const std::filesystem::path& host, int flags) { return ::open(host.c_str(), flags | O_CLOEXEC, 0666); }
 #endif
 
 int FlagsOf(FileMode mode) {
@@ -56,7 +58,7 @@ TemporaryFolder::TemporaryFolder() {
   constexpr int kAttempts = 100;  // a name that another process has taken is tried again
   std::random_device random;
   for (int i = 0; i < kAttempts; ++i) {
-    path_ = HostText(std::filesystem::temp_directory_path() / ("simulated-" + std::to_string(random())));
+    path_ = std::filesystem::temp_directory_path() / ("simulated-" + std::to_string(random()));
     std::error_code error;
     if (std::filesystem::create_directory(path_, error)) return;
   }
@@ -73,15 +75,15 @@ HostFile::~HostFile() {
 }
 
 void PutFile(const std::string& path, const std::string& bytes) {
-  std::filesystem::create_directories(HostPath(FolderOf(FullPath(path))));
-  const std::string file = HostPath(path);
+  std::filesystem::create_directories(PathOnHost(FolderOf(FullPath(path))));
+  const std::filesystem::path file = PathOnHost(path);
   if (!(std::ofstream(file, std::ios::binary | std::ios::trunc) << bytes << std::flush))
     throw std::filesystem::filesystem_error("cannot be written", file, std::error_code(errno, std::generic_category()));
 }
 
 std::string GetFile(const std::string& path) {
   if (KindOfPath(path) != Kind::File) return "";
-  std::ifstream file(HostPath(path), std::ios::binary);
+  std::ifstream file(PathOnHost(path), std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
@@ -89,12 +91,12 @@ std::string GetFile(const std::string& path) {
 
 using namespace simulated;
 
-bool FileExists(const std::string& path) { return !Fails("FileExists") && KindOfPath(path) == Kind::File; }
-bool FolderExists(const std::string& path) { return !Fails("FolderExists") && KindOfPath(path) == Kind::Folder; }
+bool FileExists(const FilePath& path) { return !Fails("FileExists") && KindOfPath(path) == Kind::File; }
+bool FolderExists(const FilePath& path) { return !Fails("FolderExists") && KindOfPath(path) == Kind::Folder; }
 
 std::int32_t OpenFile(const std::string& path, FileMode mode) {
   RaiseIfFailing("OpenFile");
-  const std::string host = HostPath(path);
+  const std::filesystem::path host = PathOnHost(path);
   const Kind kind = KindOf(host);
   if (kind != Kind::None && mode == FileMode::CreateNew) throw Fault(FaultNumber::FileExists);
   if (kind == Kind::Folder) throw Fault(FaultNumber::AccessDenied);
@@ -104,7 +106,7 @@ std::int32_t OpenFile(const std::string& path, FileMode mode) {
   if (MeansFolder(path)) throw Fault(FaultNumber::BadFileName);
   if (mode != FileMode::Read && IsReadOnly(host)) throw Fault(FaultNumber::AccessDenied);
 
-  HostFile file(host, ::open(host.c_str(), FlagsOf(mode) | kHostFlags, 0666));
+  HostFile file(host, OpenHostFile(host, FlagsOf(mode)));
   if (file.Descriptor() < 0) throw Fault(FaultOfLastError());
   Desktop& desktop = TheDesktop();
   const std::int32_t handle = desktop.nextFile;
@@ -132,9 +134,9 @@ void CloseFile(std::int32_t hFile) {
   if (TheDesktop().openFiles.erase(hFile) == 0) throw Fault(FaultNumber::BadFileNumber);
 }
 
-std::int64_t FileSize(const std::string& path) {
+std::int64_t FileSize(const FilePath& path) {
   RaiseIfFailing("FileSize");
-  const std::string host = HostPath(path);
+  const std::filesystem::path host = PathOnHost(path);
   if (KindOf(host) == Kind::None && KindOfPath(FolderOf(FullPath(path))) != Kind::Folder)
     throw Fault(FaultNumber::PathNotFound);
   if (KindOf(host) != Kind::File) throw Fault(FaultNumber::FileNotFound);

@@ -3,32 +3,32 @@
 #include <cerrno>
 #include <filesystem>
 
-#include "platform/simulated/desktop.h"
+#include "platform/simulated/host_paths.h"
 
 namespace platform::simulated {
 
 using runtime::Fault;
 using runtime::FaultNumber;
 
-Kind KindOf(const std::string& hostPath) {
+Kind KindOf(const std::filesystem::path& hostPath) {
   std::error_code ignored;
   const std::filesystem::file_status status = std::filesystem::status(hostPath, ignored);
   if (!std::filesystem::exists(status)) return Kind::None;
   return std::filesystem::is_directory(status) ? Kind::Folder : Kind::File;
 }
 
-Kind KindOfPath(const std::string& path) {
+Kind KindOfPath(const FilePath& path) {
   try {
-    const Kind kind = KindOf(HostPath(path));
+    const Kind kind = KindOf(PathOnHost(path));
     return kind == Kind::File && MeansFolder(path) ? Kind::None : kind;
   } catch (const Fault&) {
     return Kind::None;
   }
 }
 
-bool MeansFolder(const std::string& path) { return path.ends_with('\\') || path.ends_with('/'); }
+bool MeansFolder(const FilePath& path) { return path.characters.ends_with(u'\\') || path.characters.ends_with(u'/'); }
 
-bool IsReadOnly(const std::string& hostPath) {
+bool IsReadOnly(const std::filesystem::path& hostPath) {
   using std::filesystem::perms;
   std::error_code ignored;
   const std::filesystem::file_status status = std::filesystem::status(hostPath, ignored);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <vector>
 
 #include "platform/simulated/state.h"
 #include "platform/system.h"
@@ -18,128 +19,155 @@ using runtime::FaultNumber;
 
 constexpr std::size_t kLongestPath = 259;
 
-bool Exists(const std::string& hostPath) {
+bool Exists(const std::filesystem::path& hostPath) {
   std::error_code ignored;
   return std::filesystem::exists(hostPath, ignored);
 }
 
 // The name of 8 and 3 characters that a long name has besides, its number always 1; empty for a name without one.
-std::string ShortNameOf(const std::string& name) {
-  const std::size_t dot = std::min(name.rfind('.'), name.size());
-  const std::string extension = name.substr(dot, 4);
-  const std::string stem = runtime::Remove(runtime::Remove(name.substr(0, dot), ' '), '.');
-  if (stem.size() == dot && dot <= 8 && extension == name.substr(dot)) return "";
-  return runtime::ToUpper(stem.substr(0, 6) + "~1" + extension);
+std::u16string ShortNameOf(const std::u16string& name) {
+  const std::size_t dot = std::min(name.rfind(u'.'), name.size());
+  const std::u16string extension = name.substr(dot, 4);
+  std::u16string stem = name.substr(0, dot);
+  std::erase(stem, u' ');
+  std::erase(stem, u'.');
+  if (stem.size() == dot && dot <= 8 && extension == name.substr(dot)) return {};
+  return ToUpper(stem.substr(0, 6) + u"~1" + extension);
 }
 
+#ifdef _WIN32
+// Such a host drops a blank at the end of a name, so a blank that does not break stands for it.
+constexpr char16_t kStandIn = 0xA0;
+std::filesystem::path ToHost(std::u16string name) {
+  if (name.ends_with(u' ')) name.back() = kStandIn;
+  return std::wstring(name.begin(), name.end());
+}
+#else
+std::filesystem::path ToHost(const std::u16string& name) { return runtime::Utf16ToUtf8(name); }
+#endif
+
 // The name that a host folder has for an entry, by its long or short name, or the name itself when there is none.
-std::string EntryOf(const std::string& hostFolder, const std::string& name) {
+std::filesystem::path EntryOf(const std::filesystem::path& hostFolder, const std::u16string& name) {
   std::error_code ignored;
-  const bool isShort = runtime::Contains(name, "~");
+  const std::u16string wanted = ToUpper(name);
+  const bool isShort = wanted.find(u'~') != std::u16string::npos;
   for (const auto& entry : std::filesystem::directory_iterator(hostFolder, ignored)) {
-    const std::string found = FromHost(HostText(entry.path().filename()));
-    if (runtime::EqualIgnoringCase(found, name) || (isShort && runtime::EqualIgnoringCase(ShortNameOf(found), name)))
-      return HostText(entry.path().filename());
+    const std::u16string found = FromHost(entry.path().filename());
+    if (ToUpper(found) == wanted || (isShort && ShortNameOf(found) == wanted)) return entry.path().filename();
   }
   return ToHost(name);
 }
 
-bool IsAllowed(char c) {
-  return static_cast<unsigned char>(c) >= 32 && std::string_view("<>:\"|?*").find(c) == std::string_view::npos;
+bool IsAllowed(char16_t c) { return c >= 32 && std::u16string_view(u"<>:\"|?*").find(c) == std::u16string_view::npos; }
+
+// The names between the separators of a path without its drive.
+std::vector<std::u16string> NamesOf(std::u16string_view path) {
+  std::vector<std::u16string> names;
+  while (!path.empty()) {
+    const std::size_t end = std::min(path.find(u'\\'), path.size());
+    if (end > 0) names.emplace_back(path.substr(0, end));
+    path.remove_prefix(std::min(end + 1, path.size()));
+  }
+  return names;
 }
 
 // The drive and all behind it, as it was written.
-std::string Absolute(const std::string& path) {
-  const std::string current = CurrentDirectory();
-  if (path.size() >= 2 && path[1] == ':') {
-    const std::string drive = runtime::ToUpper(path.substr(0, 2));
-    if (path.size() > 2 && path[2] == '\\') return drive + path.substr(2);
-    const bool sameDrive = runtime::EqualIgnoringCase(current.substr(0, 2), drive);
-    return (sameDrive ? current : drive) + "\\" + path.substr(2);
+std::u16string Absolute(const std::u16string& path) {
+  const std::u16string current = FilePath(CurrentDirectory()).characters;
+  if (path.size() >= 2 && path[1] == u':') {
+    const std::u16string drive = ToUpper(path.substr(0, 2));
+    if (path.size() > 2 && path[2] == u'\\') return drive + path.substr(2);
+    return (ToUpper(current.substr(0, 2)) == drive ? current : drive) + u"\\" + path.substr(2);
   }
-  if (path.starts_with("\\\\")) throw Fault(FaultNumber::PathNotFound);  // there is no network
-  return path.starts_with('\\') ? current.substr(0, 2) + path : current + "\\" + path;
+  if (path.starts_with(u"\\\\")) throw Fault(FaultNumber::PathNotFound);  // there is no network
+  return path.starts_with(u'\\') ? current.substr(0, 2) + path : current + u"\\" + path;
 }
 
 }  // namespace
 
 #ifdef _WIN32
-// Such a host drops a blank at the end of a name, so a blank that does not break stands for it.
-std::string ToHost(const std::string& text) {
-  std::string host = text;
-  for (std::size_t i = 0; i < host.size(); ++i) {
-    if (host[i] == ' ' && (i + 1 == host.size() || host[i + 1] == '\\')) host[i] = '\xA0';
-  }
-  return host;
+std::u16string FromHost(const std::filesystem::path& name) {
+  const std::wstring& characters = name.native();
+  std::u16string text(characters.begin(), characters.end());
+  if (text.ends_with(kStandIn)) text.back() = u' ';
+  return text;
 }
-std::string FromHost(const std::string& text) {
-  return text.ends_with('\xA0') ? text.substr(0, text.size() - 1) + " " : text;
-}
-std::string HostText(const std::filesystem::path& path) { return FromUtf8(path.string()); }
 #else
-std::string ToHost(const std::string& text) { return ToUtf8(text); }
-std::string FromHost(const std::string& text) { return FromUtf8(text); }
-std::string HostText(const std::filesystem::path& path) { return path.string(); }
+std::u16string FromHost(const std::filesystem::path& name) { return runtime::Utf8ToUtf16(name.native()); }
 #endif
 
-std::string FullPath(const std::string& path) {
-  if (path.empty()) throw Fault(FaultNumber::PathNotFound);
-  const std::string absolute = Absolute(runtime::Replace(path, "/", "\\"));
-  std::vector<std::string> names;
-  for (std::string name : runtime::Split(std::string_view(absolute).substr(2), '\\')) {
-    if (name == ".." && !names.empty()) names.pop_back();
+std::u16string FullPath(const FilePath& path) {
+  if (path.characters.empty()) throw Fault(FaultNumber::PathNotFound);
+  std::u16string written = path.characters;
+  std::ranges::replace(written, u'/', u'\\');
+  const std::u16string absolute = Absolute(written);
+  std::vector<std::u16string> names;
+  for (std::u16string& name : NamesOf(std::u16string_view(absolute).substr(2))) {
+    if (name == u".." && !names.empty()) names.pop_back();
     if (!std::ranges::all_of(name, IsAllowed)) throw Fault(FaultNumber::BadFileName);
-    if (!name.empty() && name != "." && name != "..") names.push_back(std::move(name));
+    if (name != u"." && name != u"..") names.push_back(std::move(name));
   }
   // Only the end of the whole path is rid of dots and blanks.
-  if (!names.empty() && !absolute.ends_with('\\')) {
-    names.back().erase(names.back().find_last_not_of(". ") + 1);
+  if (!names.empty() && !absolute.ends_with(u'\\')) {
+    names.back().erase(names.back().find_last_not_of(u". ") + 1);
     if (names.back().empty()) names.pop_back();
   }
-  std::string full = absolute.substr(0, 2);
-  for (const std::string& name : names) full += "\\" + name;
-  if (names.empty()) full += "\\";
+  std::u16string full = absolute.substr(0, 2);
+  for (const std::u16string& name : names) full += u"\\" + name;
+  if (names.empty()) full += u"\\";
   if (full.size() > kLongestPath) throw Fault(FaultNumber::PathNotFound);
   return full;
 }
 
-std::string FolderOf(const std::string& fullPath) {
-  const std::size_t end = fullPath.rfind('\\');
-  return fullPath.substr(0, end == 2 ? 3 : end);
+std::u16string FolderOf(const std::u16string& fullPath) { return fullPath.substr(0, fullPath.rfind(u'\\') + 1); }
+
+std::u16string ToUpper(const std::u16string& name) {
+  std::u16string upper = runtime::ToUtf16(runtime::ToUpper(runtime::FromUtf16(name)));
+  for (std::size_t i = 0; i < name.size(); ++i)
+    if (upper[i] == u'?') upper[i] = name[i];
+  return upper;
 }
 
 // The spelling that the caller uses is tried first, so that only a path in other letters costs a look into folders.
-std::string HostPath(const std::string& path) {
-  const std::string full = FullPath(path);
+std::filesystem::path PathOnHost(const FilePath& path) {
+  const std::u16string full = FullPath(path);
   const auto& drives = TheDesktop().drives;
-  const auto drive = drives.find(full[0]);
+  const auto drive = drives.find(static_cast<char>(full[0]));
   if (drive == drives.end()) throw Fault(FaultNumber::PathNotFound);
 
-  const std::string rest = full.substr(3);
-  std::string host = drive->second;
-  if (rest.empty()) return host;
-  const std::string asWritten = host + "/" + runtime::Replace(ToHost(rest), "\\", "/");
+  const auto names = NamesOf(std::u16string_view(full).substr(2));
+  std::filesystem::path asWritten = drive->second;
+  for (const std::u16string& name : names) asWritten /= ToHost(name);
   if (Exists(asWritten)) return asWritten;
-  for (const std::string& name : runtime::Split(rest, '\\')) {
-    const std::string next = host + "/" + ToHost(name);
-    host = Exists(next) ? next : host + "/" + EntryOf(host, name);
+  std::filesystem::path host = drive->second;
+  for (const std::u16string& name : names) {
+    const std::filesystem::path next = host / ToHost(name);
+    host = Exists(next) ? next : host / EntryOf(host, name);
   }
   return host;
 }
 
-std::string LongPath(const std::string& path) {
-  const std::string full = FullPath(path);
-  const std::string host = HostPath(path).substr(HostPath(full.substr(0, 3)).size());
-  const std::string names = runtime::Replace(FromUtf8(host), "/", "\\");
-  return full.substr(0, 2) + (names.empty() || path.ends_with('\\') ? names + "\\" : names);
+std::string HostPath(const std::string& path) { return PathOnHost(path).string(); }
+
+std::u16string LongPath(const FilePath& path) {
+  const std::u16string drive = FullPath(path).substr(0, 3);
+  const std::filesystem::path host = PathOnHost(path);
+  const std::filesystem::path root = PathOnHost(drive);
+  std::u16string result = drive.substr(0, 2);
+  if (host != root)
+    for (const std::filesystem::path& name : host.lexically_relative(root)) result += u"\\" + FromHost(name);
+  if (host == root || path.characters.ends_with(u'\\')) result += u"\\";
+  return result;
 }
 
 std::string ShortPath(const std::string& path) {
-  const std::string full = LongPath(path);
-  std::string result = full.substr(0, 2);
-  for (const std::string& name : runtime::Split(full.substr(3), '\\'))
-    result += "\\" + (ShortNameOf(name).empty() ? name : ShortNameOf(name));
-  return result;
+  const std::u16string full = LongPath(path);
+  std::u16string result = full.substr(0, 2);
+  for (const std::u16string& name : NamesOf(std::u16string_view(full).substr(2))) {
+    const std::u16string shortName = ShortNameOf(name);
+    result += u"\\" + (shortName.empty() ? name : shortName);
+  }
+  return FilePath(result).Text();
 }
 
 void SetDrive(char letter, const std::string& hostFolder) {
@@ -147,12 +175,16 @@ void SetDrive(char letter, const std::string& hostFolder) {
 }
 
 void SetApplicationPath(const std::string& path) {
-  TheDesktop().applicationPath = FullPath(path);
+  TheDesktop().applicationPath = FilePath(FullPath(path)).Text();
   TheDesktop().currentDirectory.clear();
-  std::filesystem::create_directories(HostPath(path));
+  std::filesystem::create_directories(PathOnHost(path));
 }
 
 }  // namespace simulated
+
+FilePath::FilePath(const std::string& text) : characters(runtime::ToUtf16(text)) {}
+
+std::string FilePath::Text() const { return runtime::FromUtf16(characters); }
 
 std::string ApplicationPath() { return simulated::TheDesktop().applicationPath; }
 

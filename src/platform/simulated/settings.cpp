@@ -28,17 +28,18 @@ std::string_view Stripped(std::string_view text) {
   return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
-// The name of the section that a line opens.
+// The name of the section that a line opens. It reaches to the last bracket.
 std::optional<std::string_view> SectionOf(std::string_view line) {
   line = Stripped(line);
-  if (!line.starts_with('[') || line.find(']') == std::string_view::npos) return std::nullopt;
-  return line.substr(1, line.find(']') - 1);
+  const auto end = line.rfind(']');
+  if (!line.starts_with('[') || end == std::string_view::npos) return std::nullopt;
+  return Stripped(line.substr(1, end - 1));
 }
 
-// The name of the key that a line sets.
+// The name of the key that a line sets. A comment with an equal sign is a key too, by its name with the semicolon.
 std::optional<std::string_view> KeyOf(std::string_view line) {
   const auto end = line.find('=');
-  if (end == std::string_view::npos || Stripped(line).starts_with(';')) return std::nullopt;
+  if (end == std::string_view::npos) return std::nullopt;
   return Stripped(line.substr(0, end));
 }
 
@@ -66,7 +67,7 @@ struct Extent {
 std::optional<Extent> FindSection(const std::vector<std::string>& lines, const std::string& section) {
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const auto name = SectionOf(lines[i]);
-    if (!name || !runtime::EqualIgnoringCase(*name, section)) continue;
+    if (!name || !runtime::EqualIgnoringCase(*name, Stripped(section))) continue;
     std::size_t end = i + 1;
     while (end < lines.size() && !SectionOf(lines[end])) ++end;
     return Extent{i + 1, end};
@@ -77,7 +78,7 @@ std::optional<Extent> FindSection(const std::vector<std::string>& lines, const s
 std::optional<std::size_t> FindKey(const std::vector<std::string>& lines, Extent section, const std::string& key) {
   for (std::size_t i = section.first; i < section.end; ++i) {
     const auto name = KeyOf(lines[i]);
-    if (name && runtime::EqualIgnoringCase(*name, key)) return i;
+    if (name && runtime::EqualIgnoringCase(*name, Stripped(key))) return i;
   }
   return std::nullopt;
 }

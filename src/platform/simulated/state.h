@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
@@ -63,25 +64,25 @@ class TemporaryFolder {
   ~TemporaryFolder();
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  const std::string& Path() const { return path_; }
+  const std::filesystem::path& Path() const { return path_; }
 
  private:
-  std::string path_;
+  std::filesystem::path path_;
 };
 
 // An open file of the host.
 class HostFile {
  public:
-  HostFile(std::string path, int descriptor) : path_(std::move(path)), descriptor_(descriptor) {}
+  HostFile(std::filesystem::path path, int descriptor) : path_(std::move(path)), descriptor_(descriptor) {}
   HostFile(HostFile&& other) noexcept
       : path_(std::move(other.path_)), descriptor_(std::exchange(other.descriptor_, -1)) {}
   HostFile& operator=(HostFile&&) = delete;
   ~HostFile();
-  const std::string& Path() const { return path_; }
+  const std::filesystem::path& Path() const { return path_; }
   int Descriptor() const { return descriptor_; }
 
  private:
-  std::string path_;
+  std::filesystem::path path_;
   int descriptor_;
 };
 
@@ -157,7 +158,8 @@ struct Desktop {
 
   // Files.
   TemporaryFolder temporaryFolder;
-  std::map<char, std::string> drives;  // upper-case letter, host folder
+  std::string folderThatEndsInABlank;
+  std::map<char, std::filesystem::path> drives;  // upper-case letter, host folder
   std::string applicationPath = "C:\\QUMA";
   std::string currentDirectory;  // empty: the program's folder
   std::map<std::int32_t, HostFile> openFiles;

@@ -1,5 +1,7 @@
 #include "platform/files.h"
 
+#include <memory>
+
 #include "platform/win32/late_binding.h"
 #include "platform/win32/substitutes.h"
 #include "platform/win32/system_errors.h"
@@ -14,15 +16,64 @@ namespace {
 // A drive without a disk is a fault like any other; by itself the system would ask the user for one and hold the run.
 [[maybe_unused]] const UINT formerErrorMode = ::SetErrorMode(SEM_FAILCRITICALERRORS);
 
+// The 9x family has the wide functions only as stubs.
+const wchar_t* Wide(const FilePath& path) { return reinterpret_cast<const wchar_t*>(path.characters.c_str()); }
+
+DWORD AttributesOf(const FilePath& path) {
+  return IsFamily9x() ? ::GetFileAttributesA(path.Text().c_str()) : ::GetFileAttributesW(Wide(path));
+}
+
+FilePath NameOf(const WIN32_FIND_DATAA& found) { return found.cFileName; }
+FilePath NameOf(const WIN32_FIND_DATAW& found) {
+  return std::u16string(reinterpret_cast<const char16_t*>(found.cFileName));
+}
+
+// The rest of a search whose first find is there. The two forms differ in their record and their functions alone.
+template <class Record>
+std::vector<FoundFile> FindAll(HANDLE hFindFile, Record& found, BOOL WINAPI (*next)(HANDLE, Record*)) {
+  std::vector<FoundFile> files;
+  if (hFindFile == INVALID_HANDLE_VALUE) {
+    if (::GetLastError() == ERROR_FILE_NOT_FOUND) return files;
+    RaiseLastError();
+  }
+  const std::unique_ptr<void, decltype(&::FindClose)> search(hFindFile, ::FindClose);
+  do {
+    std::u16string name = NameOf(found).characters;
+    if (name != u"." && name != u"..") files.push_back({std::move(name), found.dwFileAttributes});
+  } while (next(hFindFile, &found));
+  if (::GetLastError() != ERROR_NO_MORE_FILES) RaiseLastError();
+  return files;
+}
+
 }  // namespace
 
-bool FileExists(const std::string& path) {
-  const DWORD attributes = ::GetFileAttributesA(path.c_str());
+FilePath::FilePath(const std::string& text) : characters(text.size(), u'\0') {
+  const int size = static_cast<int>(text.size());
+  auto* wide = reinterpret_cast<wchar_t*>(characters.data());
+  characters.resize(static_cast<std::size_t>(::MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide, size)));
+}
+
+std::string FilePath::Text() const {
+  const int size = static_cast<int>(characters.size());
+  std::string text(2 * characters.size(), '\0');  // no code page of the system has characters of more bytes
+  const auto convert = [&](DWORD flags) {
+    return ::WideCharToMultiByte(CP_ACP, flags, Wide(*this), size, text.data(), static_cast<int>(text.size()), nullptr,
+                                 nullptr);
+  };
+  // The first systems of both families don't know the flag.
+  int length = convert(WC_NO_BEST_FIT_CHARS);
+  if (length == 0) length = convert(0);
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+bool FileExists(const FilePath& path) {
+  const DWORD attributes = AttributesOf(path);
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-bool FolderExists(const std::string& path) {
-  const DWORD attributes = ::GetFileAttributesA(path.c_str());
+bool FolderExists(const FilePath& path) {
+  const DWORD attributes = AttributesOf(path);
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
@@ -66,56 +117,59 @@ void CloseFile(std::int32_t hFile) {
   if (!::CloseHandle(HandleOf<HANDLE>(hFile))) RaiseLastError();
 }
 
-std::int64_t FileSize(const std::string& path) {
-  const auto function =
-      BindIfThere<BOOL WINAPI(const char*, GET_FILEEX_INFO_LEVELS, void*)>("kernel32.dll", "GetFileAttributesExA");
-  if (function == nullptr) return FileSizeBySearch(path);
+std::int64_t FileSize(const FilePath& path) {
+  const bool narrow = IsFamily9x();
+  const auto function = BindIfThere<BOOL WINAPI(const void*, GET_FILEEX_INFO_LEVELS, void*)>(
+      "kernel32.dll", narrow ? "GetFileAttributesExA" : "GetFileAttributesExW");
+  const std::string text = path.Text();
+  if (function == nullptr) return FileSizeBySearch(text);
   WIN32_FILE_ATTRIBUTE_DATA data;
-  if (!function(path.c_str(), GetFileExInfoStandard, &data)) RaiseLastError();
+  const void* name = narrow ? static_cast<const void*>(text.c_str()) : Wide(path);
+  if (!function(name, GetFileExInfoStandard, &data)) RaiseLastError();
   if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) throw runtime::Fault(runtime::FaultNumber::FileNotFound);
   return static_cast<std::int64_t>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
 }
 
-std::vector<FoundFile> FindFiles(const std::string& lpFileName) {
-  std::vector<FoundFile> files;
-  WIN32_FIND_DATAA found;
-  const HANDLE search = ::FindFirstFileA(lpFileName.c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) {
-    if (::GetLastError() == ERROR_FILE_NOT_FOUND) return files;
-    RaiseLastError();
+std::vector<FoundFile> FindFiles(const FilePath& lpFileName) {
+  if (IsFamily9x()) {
+    WIN32_FIND_DATAA found;
+    return FindAll(::FindFirstFileA(lpFileName.Text().c_str(), &found), found, ::FindNextFileA);
   }
-  do {
-    const std::string_view name = found.cFileName;
-    if (name != "." && name != "..") files.push_back({found.cFileName, found.dwFileAttributes});
-  } while (::FindNextFileA(search, &found));
-  const DWORD end = ::GetLastError();
-  ::FindClose(search);
-  if (end != ERROR_NO_MORE_FILES) throw runtime::Fault(FaultOfCode(end));
-  return files;
+  WIN32_FIND_DATAW found;
+  return FindAll(::FindFirstFileW(Wide(lpFileName), &found), found, ::FindNextFileW);
 }
 
-void SetFileAttributesA(const std::string& lpFileName, std::uint32_t dwFileAttributes) {
-  if (!::SetFileAttributesA(lpFileName.c_str(), dwFileAttributes)) RaiseLastError();
+void SetFileAttributesW(const FilePath& lpFileName, std::uint32_t dwFileAttributes) {
+  if (!(IsFamily9x() ? ::SetFileAttributesA(lpFileName.Text().c_str(), dwFileAttributes)
+                     : ::SetFileAttributesW(Wide(lpFileName), dwFileAttributes)))
+    RaiseLastError();
 }
 
-void DeleteFileA(const std::string& lpFileName) {
-  if (!::DeleteFileA(lpFileName.c_str())) RaiseLastError();
+void DeleteFileW(const FilePath& lpFileName) {
+  if (!(IsFamily9x() ? ::DeleteFileA(lpFileName.Text().c_str()) : ::DeleteFileW(Wide(lpFileName)))) RaiseLastError();
 }
 
-void CopyFileA(const std::string& lpExistingFileName, const std::string& lpNewFileName, bool bFailIfExists) {
-  if (!::CopyFileA(lpExistingFileName.c_str(), lpNewFileName.c_str(), bFailIfExists)) RaiseLastError();
+void CopyFileW(const FilePath& lpExistingFileName, const FilePath& lpNewFileName, bool bFailIfExists) {
+  if (!(IsFamily9x() ? ::CopyFileA(lpExistingFileName.Text().c_str(), lpNewFileName.Text().c_str(), bFailIfExists)
+                     : ::CopyFileW(Wide(lpExistingFileName), Wide(lpNewFileName), bFailIfExists)))
+    RaiseLastError();
 }
 
-void MoveFileA(const std::string& lpExistingFileName, const std::string& lpNewFileName) {
-  if (!::MoveFileA(lpExistingFileName.c_str(), lpNewFileName.c_str())) RaiseLastError();
+void MoveFileW(const FilePath& lpExistingFileName, const FilePath& lpNewFileName) {
+  if (!(IsFamily9x() ? ::MoveFileA(lpExistingFileName.Text().c_str(), lpNewFileName.Text().c_str())
+                     : ::MoveFileW(Wide(lpExistingFileName), Wide(lpNewFileName))))
+    RaiseLastError();
 }
 
-void CreateDirectoryA(const std::string& lpPathName) {
-  if (!::CreateDirectoryA(lpPathName.c_str(), nullptr)) RaiseLastError();
+void CreateDirectoryW(const FilePath& lpPathName) {
+  if (!(IsFamily9x() ? ::CreateDirectoryA(lpPathName.Text().c_str(), nullptr)
+                     : ::CreateDirectoryW(Wide(lpPathName), nullptr)))
+    RaiseLastError();
 }
 
-void RemoveDirectoryA(const std::string& lpPathName) {
-  if (!::RemoveDirectoryA(lpPathName.c_str())) RaiseLastError();
+void RemoveDirectoryW(const FilePath& lpPathName) {
+  if (!(IsFamily9x() ? ::RemoveDirectoryA(lpPathName.Text().c_str()) : ::RemoveDirectoryW(Wide(lpPathName))))
+    RaiseLastError();
 }
 
 bool MakeSureDirectoryPathExists(const std::string& DirPath) {

@@ -297,7 +297,7 @@ TEST_F(InputMerFibTest, AWorkFileThatCannotBeMadeIsRefused) {
 
 TEST_F(InputMerFibTest, AnOldWorkFileThatCannotBeDeletedIsRefused) {
   PutFile(kWorkFile, "alt");
-  Fail("DeleteFileA", 1);
+  Fail("DeleteFileW", 1);
   ExpectRefused("2004", "2004", "Fehler beim erzeugen der Mandantenmatrix: Zugriff verweigert");
   EXPECT_EQ(GetFile(kWorkFile), "alt");
 }

@@ -197,7 +197,7 @@ class MandantPathTest : public ExportPathsTest {
 
   static bool IsFreeToDelete(const std::string& path) {
     try {
-      platform::DeleteFileA(path);
+      platform::DeleteFileW(path);
       return true;
     } catch (const runtime::Fault&) {
       return false;

@@ -218,6 +218,15 @@ TEST_F(WaitForFileTest, APatternMeansAllFilesOfItsFolderWithItsExtension) {
   EXPECT_EQ(Clock(), 500 + 2 * 1500);
 }
 
+TEST_F(WaitForFileTest, AFoundNameOutsideTheCodePageIsReadByThatName) {
+  PutFile("C:\\x\\Lodz.txt", "1");
+  std::filesystem::rename(HostPath("C:\\x\\Lodz.txt"), HostPath("C:\\x") +
+                                                           "/\xC5\x81\xC3\xB3"
+                                                           "d\xC5\xBA.txt");
+  EXPECT_TRUE(WaitForFile("C:\\x\\*.txt"));
+  ExpectLog({Reading(1)});
+}
+
 TEST_F(WaitForFileTest, TheExtensionIsWhatFollowsTheLastDotOfTheName) {
   PutFile("C:\\x\\Stand 1.2.txt", "1");
   EXPECT_TRUE(WaitForFile("C:\\x\\Stand 1.*.txt"));

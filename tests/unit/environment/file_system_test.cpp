@@ -136,7 +136,7 @@ TEST_F(FileSystemTest, TheFilesOfAFolderComeWithNameAndPath) {
     const auto files = FileSystem().FilesOf(folder);
     ASSERT_EQ(files.size(), 1u);
     EXPECT_EQ(files[0].Name, "a.txt");
-    EXPECT_EQ(files[0].Path, "C:\\x\\a.txt");
+    EXPECT_EQ(files[0].Path.Text(), "C:\\x\\a.txt");
   }
 }
 

@@ -1,5 +1,6 @@
 // Deleting, copying, renaming and making, by the verbs.
 #include <filesystem>
+#include <fstream>
 
 #include "engine/state.h"
 #include "environment/file_commands.h"
@@ -7,6 +8,7 @@
 #include "frame/log.h"
 #include "platform/files.h"
 #include "platform/simulated/desktop.h"
+#include "platform/system.h"
 #include "runtime/fault.h"
 #include "support/press.h"
 
@@ -27,12 +29,23 @@ class FileVerbTest : public SystemTest {
  protected:
   static void PutFolder(const std::string& path) { std::filesystem::create_directories(HostPath(path)); }
 
+  // A file or, with a separator at its end, a folder by a name that the program's own text cannot hold.
+  static void PutForeign(const std::string& folder, const std::u16string& name) {
+    const std::filesystem::path path = std::filesystem::path(HostPath(folder)) / std::filesystem::path(name);
+    if (name.ends_with('/')) std::filesystem::create_directories(path);
+    else std::ofstream(path) << "x";
+  }
+
+  static bool HasForeign(const std::string& folder, const std::u16string& name) {
+    return std::filesystem::exists(std::filesystem::path(HostPath(folder)) / std::filesystem::path(name));
+  }
+
   static void SetReadOnly(const std::string& path) {
-    platform::SetFileAttributesA(path, platform::FILE_ATTRIBUTE_READONLY);
+    platform::SetFileAttributesW(path, platform::FILE_ATTRIBUTE_READONLY);
   }
 
   static void SetWritable(const std::string& path) {
-    platform::SetFileAttributesA(path, platform::FILE_ATTRIBUTE_NORMAL);
+    platform::SetFileAttributesW(path, platform::FILE_ATTRIBUTE_NORMAL);
   }
 };
 
@@ -153,6 +166,78 @@ TEST_F(DeleteFileTest, WithoutAFileSystemItFailsInTheHandler) {
   run.LastError.clear();
   EXPECT_TRUE(DeleteFile("C:\\x\\fehlt.txt")) << "the look for the file takes an object of its own";
   EXPECT_EQ(run.LastError, "");
+}
+
+// Names outside the code page.
+
+class ForeignNameTest : public FileVerbTest {
+ protected:
+  void PutVictims() {
+    PutFile("C:\\victim.txt", "bleibt");
+    PutFile("C:\\opfer\\a.txt", "bleibt");
+    PutFolder("C:\\x");
+  }
+
+  static void ExpectVictims() {
+    EXPECT_EQ(GetFile("C:\\victim.txt"), "bleibt");
+    EXPECT_EQ(GetFile("C:\\opfer\\a.txt"), "bleibt");
+  }
+};
+
+// The wide backslash, U+FF3C, that best fits a backslash.
+TEST_F(ForeignNameTest, AWideBackslashLeadsNoDeletionOutOfTheFolder) {
+  PutVictims();
+  PutForeign("C:\\x", u"..\uFF3Cvictim.txt");
+  EXPECT_TRUE(DeleteFile("C:\\x\\*.*"));
+  EXPECT_TRUE(platform::FindFiles("C:\\x\\*").empty());
+  PutForeign("C:\\x", u"..\uFF3Copfer/");
+  PutForeign("C:\\x", u"..\uFF3Copfer/..\uFF3C..\uFF3Cvictim.txt");
+  EXPECT_TRUE(DeleteFolder("C:\\x"));
+  EXPECT_FALSE(FolderExists("C:\\x"));
+  ExpectVictims();
+}
+
+TEST_F(ForeignNameTest, AFolderIsDeletedAndCopiedWithNamesThatTheCodePageLacks) {
+  PutFolder("C:\\x");
+  PutForeign("C:\\x", u"\u0141\u00F3d\u017A/");
+  PutForeign("C:\\x", u"\u0141\u00F3d\u017A/\u0141\u00F3d\u017A.txt");
+  EXPECT_TRUE(CopyFolder("C:\\x", "C:\\ziel"));
+  EXPECT_TRUE(HasForeign("C:\\ziel", u"\u0141\u00F3d\u017A/\u0141\u00F3d\u017A.txt"));
+  EXPECT_TRUE(DeleteFolder("C:\\x"));
+  EXPECT_FALSE(FolderExists("C:\\x"));
+}
+
+TEST_F(ForeignNameTest, AFileOfAPatternIsCopiedUnderItsOwnName) {
+  PutVictims();
+  PutForeign("C:\\x", u"..\uFF3Cvictim.txt");
+  EXPECT_TRUE(CopyFile("C:\\x\\*.*", "C:\\ziel\\"));
+  EXPECT_TRUE(HasForeign("C:\\ziel", u"..\uFF3Cvictim.txt"));
+  ExpectVictims();
+}
+
+TEST_F(ForeignNameTest, The9xFamilyRefusesAFolderWhoseNamesLeadElsewhere) {
+  SetVersion(platform::VER_PLATFORM_WIN32_WINDOWS, 4, 10);
+  // In the code page: ..\victim.txt, ../victim.txt, C:victim.txt and "...", which that family takes for a folder above.
+  for (const std::u16string name :
+       {u"..\uFF3Cvictim.txt", u"..\uFF0Fvictim.txt", u"C\uFF1Avictim.txt", u"\uFF0E\uFF0E\uFF0E"}) {
+    PutVictims();
+    PutFile("C:\\x\\a.txt", "x");
+    PutForeign("C:\\x", name);
+    EXPECT_FALSE(DeleteFile("C:\\x\\*.*"));
+    EXPECT_EQ(run.LastError, "Fehler in Funktion DeleteFile:Falscher Dateiname");
+    EXPECT_FALSE(DeleteFolder("C:\\x"));
+    EXPECT_EQ(run.LastError, "Fehler in Funktion DeleteFolder:Falscher Dateiname (C:\\x)");
+    EXPECT_TRUE(FileExists("C:\\x\\a.txt"));
+    EXPECT_TRUE(HasForeign("C:\\x", name));
+    ExpectVictims();
+    std::filesystem::remove_all(HostPath("C:\\x"));
+  }
+}
+
+TEST_F(ForeignNameTest, AFolderThatEndsInABlankIsDeletedWithItsParent) {
+  PutFile("C:\\x\\ 4711 \\a.txt", "x");
+  EXPECT_TRUE(DeleteFolder("C:\\x"));
+  EXPECT_FALSE(FolderExists("C:\\x"));
 }
 
 // "DELETEFOLDER".
@@ -324,7 +409,7 @@ TEST_F(CopyFileTest, AMissingSourceFailsWithItsNumber) {
 
 TEST_F(CopyFileTest, AFullDiskFailsWithItsNumberAndLeavesTheSource) {
   PutFile("C:\\x\\a.txt", "a");
-  Fail("CopyFileA", 1, 0, FaultNumber::DiskFull);
+  Fail("CopyFileW", 1, 0, FaultNumber::DiskFull);
   EXPECT_FALSE(CopyFile("C:\\x\\a.txt", "C:\\ziel\\"));
   EXPECT_EQ(run.LastError, "Fehler 61 beim Kopieren: Datenträger voll");
   EXPECT_EQ(GetFile("C:\\x\\a.txt"), "a");
@@ -332,7 +417,7 @@ TEST_F(CopyFileTest, AFullDiskFailsWithItsNumberAndLeavesTheSource) {
 
 TEST_F(CopyFileTest, ARefusalHalfWayLeavesTheSourcesAndTheCopiesBeforeIt) {
   for (const char* name : {"a", "b", "c"}) PutFile(std::string("C:\\x\\") + name, name);
-  Fail("CopyFileA", 1, 1);
+  Fail("CopyFileW", 1, 1);
   EXPECT_FALSE(CopyFile("C:\\x\\*", "C:\\ziel\\"));
   EXPECT_EQ(run.LastError, "Fehler 70 beim Kopieren: Zugriff verweigert");
   EXPECT_EQ(platform::FindFiles("C:\\x\\*").size(), 3u);
@@ -484,7 +569,7 @@ TEST_F(CopyFolderTest, AFolderOntoItselfIsRefusedAndStays) {
 
 TEST_F(CopyFolderTest, ARefusalHalfWayLeavesTheSource) {
   for (const char* name : {"a", "b", "c"}) PutFile(std::string("C:\\x\\") + name, name);
-  Fail("CopyFileA", 1, 1, FaultNumber::DiskFull);
+  Fail("CopyFileW", 1, 1, FaultNumber::DiskFull);
   EXPECT_FALSE(RunLines({"COPYFOLDER=C:\\x,C:\\ziel", "MSG=nie"}));
   ExpectLog(LogOf("C:\\x", "C:\\ziel") + Making("C:\\ziel") + Lines{"Fehler in Funktion CopyFolder:Datenträger voll"});
   EXPECT_EQ(platform::FindFiles("C:\\x\\*").size(), 3u);

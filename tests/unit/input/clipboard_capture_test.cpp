@@ -50,7 +50,7 @@ TEST_F(SaveClipboardTest, ATableBecomesAFile) {
 TEST_F(SaveClipboardTest, TheFileIsClosed) {
   Clipboard() = "x";
   EXPECT_TRUE(RunLines({kSave}));
-  EXPECT_NO_THROW(platform::DeleteFileA(kFile));
+  EXPECT_NO_THROW(platform::DeleteFileW(kFile));
 }
 
 TEST_F(SaveClipboardTest, WithoutAFileNameItFails) {
@@ -110,7 +110,7 @@ TEST_F(SaveClipboardTest, AClipboardThatAnotherProgramHoldsIsAFaultAndLeavesTheF
   Fail("OpenClipboard");
   ExpectFailure(kSave, "Fehler in Funktion SaveClipboard:Zwischenablage kann nicht geöffnet werden");
   EXPECT_EQ(GetFile(kFile), "");
-  EXPECT_THROW(platform::DeleteFileA(kFile), runtime::Fault);
+  EXPECT_THROW(platform::DeleteFileW(kFile), runtime::Fault);
 }
 
 TEST_F(SaveClipboardTest, AFullDiskIsAFault) {
@@ -239,7 +239,7 @@ TEST_F(SaveClipboardZVKTest, OneEmptyValueAsksForBoth) {
     UserTypes("1", "2");
     EXPECT_TRUE(RunLines({kSaveZVK + ",0"}));
     EXPECT_EQ(GetFile(kFile), "\"x\";;1;2\r\n") << caption;
-    platform::DeleteFileA(kFile);
+    platform::DeleteFileW(kFile);
   }
 }
 
@@ -386,7 +386,7 @@ TEST_F(SaveClipboardZVKFiles, TheTailOfAnOldTemporaryFileIsTakenForTable) {
 TEST_F(SaveClipboardZVKFiles, TheFileIsClosedInBothModes) {
   for (const char* mode : {",0", ",1"}) {
     EXPECT_TRUE(RunLines({kSaveZVK + mode}));
-    EXPECT_NO_THROW(platform::DeleteFileA(kFile)) << mode;
+    EXPECT_NO_THROW(platform::DeleteFileW(kFile)) << mode;
   }
 }
 
@@ -399,7 +399,7 @@ TEST_F(SaveClipboardZVKFiles, AnEmptyTextHasNoHeaderAndLeavesTheTemporaryFileOpe
   ExpectFailure(kSaveZVK + ",0", "Fehler in Funktion SaveClipboardZVK:Eingabe hinter Dateiende");
   EXPECT_TRUE(Exists(kTemporary));
   EXPECT_FALSE(Exists(kFile));
-  EXPECT_THROW(platform::DeleteFileA(kTemporary), runtime::Fault);
+  EXPECT_THROW(platform::DeleteFileW(kTemporary), runtime::Fault);
 }
 
 TEST_F(SaveClipboardZVKFiles, AHeldClipboardLeavesTheTemporaryFileInPlace) {

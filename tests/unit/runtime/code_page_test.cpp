@@ -26,4 +26,11 @@ TEST(CodePage, IsWrittenInUtf8AndReadFromIt) {
   EXPECT_EQ(runtime::FromUtf8("\xC5\x81\xF0\x9F\x98\x80."), "??.");
 }
 
+TEST(CodePage, TwoByteTextIsWrittenInUtf8AndReadFromIt) {
+  const std::u16string text = u"A\u00FC\u20AC\uFF3C\U0001F600.";
+  const std::string utf8 = "A\xC3\xBC\xE2\x82\xAC\xEF\xBC\xBC\xF0\x9F\x98\x80.";
+  EXPECT_EQ(runtime::Utf16ToUtf8(text), utf8);
+  EXPECT_EQ(runtime::Utf8ToUtf16(utf8), text);
+}
+
 }  // namespace

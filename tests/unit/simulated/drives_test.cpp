@@ -57,7 +57,7 @@ TEST_F(SimulatedDrives, NamesOnTheHostAreUtf8) {
   EXPECT_TRUE(std::filesystem::exists(file));
   const auto found = platform::FindFiles("C:\\BÜCHER\\*");
   ASSERT_EQ(found.size(), 1u);
-  EXPECT_EQ(found[0].cFileName, "Preis in €.txt");
+  EXPECT_EQ(platform::FilePath(found[0].cFileName).Text(), "Preis in €.txt");
   EXPECT_EQ(platform::simulated::GetFile("c:\\bücher\\PREIS IN €.TXT"), "Inhalt");
 }
 
@@ -121,12 +121,10 @@ TEST_F(SimulatedDrives, BareNameOfASectionFileMeansTheWindowsFolder) {
 }
 
 TEST_F(SimulatedDrives, SectionFileMatchesUmlautsWithoutCase) {
-  platform::simulated::PutFile("C:\\QUMA\\x.ini", "[MERLA]\r\nMatrixWährung=20\r\n;Matrix=x\r\n");
+  platform::simulated::PutFile("C:\\QUMA\\x.ini", "[MERLA]\r\nMatrixWährung=20\r\n");
   std::string value;
   platform::GetPrivateProfileStringA("merla", "MATRIXWÄHRUNG", "", value, 100, "C:\\QUMA\\x.ini");
   EXPECT_EQ(value, "20");
-  platform::GetPrivateProfileStringA("merla", ";Matrix", "keiner", value, 100, "C:\\QUMA\\x.ini");
-  EXPECT_EQ(value, "keiner");
 }
 
 TEST_F(SimulatedDrives, WritingASectionFileLeavesAllElseAsItWas) {
