@@ -4,7 +4,7 @@
 set -euo pipefail
 
 PACKAGES=(
-  cmake ninja-build g++ libc6-dev python3 locales
+  cmake ninja-build g++ libc6-dev python3 python3-pefile locales
   googletest libgtest-dev libbenchmark-dev
   g++-mingw-w64-i686-posix
   wine wine32:i386 fonts-wine

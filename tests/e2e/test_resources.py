@@ -1,31 +1,11 @@
 """What the program costs: its size, the time until it is ready, and nothing that it keeps from run to run."""
 
-import re
-import subprocess
 import time
 import unittest
 
 from harness import STARS, WINDOWS_BUILD, EndToEndTest, wait_until
 
 PRESSES = 1000
-# Of every Windows since 98 and NT 4.
-LIBRARIES = {"advapi32", "comctl32", "comdlg32", "gdi32", "kernel32", "msvcrt", "shell32", "user32", "version"}
-# What one of these lacks; the program would not even start there.
-LATER = {
-    "AcquireSRWLockExclusive",
-    "AddVectoredExceptionHandler",
-    "BlockInput",
-    "GetLongPathNameA",
-    "GetModuleHandleExW",
-    "GetTickCount64",
-    "InitOnceExecuteOnce",
-    "InitializeConditionVariable",
-    "InitializeSRWLock",
-    "RemoveVectoredExceptionHandler",
-    "SleepConditionVariableCS",
-    "VirtualAllocEx",
-    "VirtualFreeEx",
-}
 # Ten lines. Most of them stand in a loop, where the progress bar stands still: drawing it takes longer than a line.
 MACRO = """\
 DIM x
@@ -39,21 +19,6 @@ MSG=nie
 MARK=Ende
 LOOP UNTIL MATRIX.EOF
 """
-
-
-class ImportsTest(unittest.TestCase):
-    def setUp(self):
-        command = ["i686-w64-mingw32-objdump", "-p", WINDOWS_BUILD / "QUMAEXP.EXE"]
-        self.imports = subprocess.run(command, capture_output=True, text=True, check=True).stdout
-
-    def test_program_needs_no_library_beside_the_system(self):
-        libraries = re.findall(r"DLL Name: (\w+)\.dll", self.imports, re.IGNORECASE)
-        self.assertLessEqual({library.lower() for library in libraries}, LIBRARIES)
-
-    def test_program_needs_no_function_of_later_systems(self):
-        functions = re.findall(r"^\t[0-9a-f]+\t +\d+ +(\w+)$", self.imports, re.MULTILINE)
-        self.assertIn("CreateFileA", functions)
-        self.assertEqual(set(functions) & LATER, set())
 
 
 class ResourcesTest(EndToEndTest):

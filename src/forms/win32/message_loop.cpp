@@ -7,6 +7,7 @@
 
 #include "forms/realization.h"
 #include "forms/win32/form_window.h"
+#include "platform/win32/substitutes.h"
 
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
@@ -73,7 +74,7 @@ void ModalSession::End() {
 
 // Keys that move between controls and press buttons come first.
 void Dispatch(MSG& message) {
-  const HWND root = message.hwnd == nullptr ? nullptr : ::GetAncestor(message.hwnd, GA_ROOT);
+  const HWND root = platform::HandleOf<HWND>(platform::RootOf(platform::NumberOf(message.hwnd)));
   const bool isDialog = IsForm(platform::NumberOf(root)) && ::IsWindowVisible(root);
   if (!isDialog || !::IsDialogMessageA(root, &message)) {
     ::TranslateMessage(&message);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/win32/late_binding.h"
+
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
 // Behind them, on which it stands.
@@ -12,7 +14,7 @@ namespace forms::win32 {
 namespace {
 
 bool HasRichText() {
-  static const bool has = ::LoadLibraryA("riched20.dll") != nullptr;
+  static const bool has = platform::LoadSystemLibrary("riched20.dll");
   return has;
 }
 

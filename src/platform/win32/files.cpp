@@ -1,6 +1,7 @@
 #include "platform/files.h"
 
 #include "platform/win32/late_binding.h"
+#include "platform/win32/substitutes.h"
 #include "platform/win32/system_errors.h"
 
 // The system's headers come last.
@@ -66,8 +67,11 @@ void CloseFile(std::int32_t hFile) {
 }
 
 std::int64_t FileSize(const std::string& path) {
+  const auto function =
+      BindIfThere<BOOL WINAPI(const char*, GET_FILEEX_INFO_LEVELS, void*)>("kernel32.dll", "GetFileAttributesExA");
+  if (function == nullptr) return FileSizeBySearch(path);
   WIN32_FILE_ATTRIBUTE_DATA data;
-  if (!::GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data)) RaiseLastError();
+  if (!function(path.c_str(), GetFileExInfoStandard, &data)) RaiseLastError();
   if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) throw runtime::Fault(runtime::FaultNumber::FileNotFound);
   return static_cast<std::int64_t>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
 }

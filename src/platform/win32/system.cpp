@@ -1,8 +1,8 @@
 #include "platform/system.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
-#include <vector>
 
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
@@ -59,18 +59,20 @@ std::string ApplicationPath() {
   return file.substr(0, root ? end + 1 : end);
 }
 
+// The resource as it lies in memory. The library that reads versions of files would be looked for beside the program
+// first.
 FileVersion ApplicationVersion() {
-  const std::string file = ApplicationFile();
-  DWORD unused = 0;
-  std::vector<char> resource(::GetFileVersionInfoSizeA(file.c_str(), &unused));
-  void* block = nullptr;
-  UINT size = 0;
-  if (resource.empty() ||
-      !::GetFileVersionInfoA(file.c_str(), 0, static_cast<DWORD>(resource.size()), resource.data()) ||
-      !::VerQueryValueA(resource.data(), "\\", &block, &size) || size < sizeof(VS_FIXEDFILEINFO))
-    return {};
-  const auto* version = static_cast<const VS_FIXEDFILEINFO*>(block);
-  return {HIWORD(version->dwFileVersionMS), LOWORD(version->dwFileVersionMS), HIWORD(version->dwFileVersionLS)};
+  struct VersionResource {
+    WORD length, valueLength, type;
+    WCHAR key[16];  // "VS_VERSION_INFO"
+    VS_FIXEDFILEINFO value;
+  };
+  static_assert(offsetof(VersionResource, value) == 40);  // on a double-word boundary
+  const HRSRC resource = ::FindResourceA(nullptr, MAKEINTRESOURCEA(VS_VERSION_INFO), RT_VERSION);
+  if (resource == nullptr || ::SizeofResource(nullptr, resource) < sizeof(VersionResource)) return {};
+  const auto* version = static_cast<const VersionResource*>(::LockResource(::LoadResource(nullptr, resource)));
+  const VS_FIXEDFILEINFO& value = version->value;
+  return {HIWORD(value.dwFileVersionMS), LOWORD(value.dwFileVersionMS), HIWORD(value.dwFileVersionLS)};
 }
 
 std::string CurrentDirectory() {
