@@ -1,6 +1,7 @@
-"""What stands in the program file: what it needs of the system, what hardens it, and its manifest."""
+"""What stands in the program file: what it needs of the system, what hardens it, its manifest and its icons."""
 
 import collections
+import struct
 import sys
 import unittest
 
@@ -66,6 +67,8 @@ IMPORTS = {
             GetKeyboardLayout GetSysColorBrush LoadImageA MapVirtualKeyExA RegisterClassExA VkKeyScanExA""",
     },
 }
+ICONS = ["ICOERR", "ICOEXP", "ICOQST", "ICOQUM"]
+SIZES = [16, 20, 24, 32, 40, 48, 256]
 
 
 class ProgramFileTest(unittest.TestCase):
@@ -128,6 +131,26 @@ class ProgramFileTest(unittest.TestCase):
         manifest = self.resources("RT_MANIFEST")[1].decode()
         self.assertIn("Microsoft.Windows.Common-Controls", manifest)
         self.assertNotIn("requestedExecutionLevel", manifest)
+
+    def test_icons_have_a_picture_for_each_resolution(self):
+        groups, pictures = self.resources("RT_GROUP_ICON"), self.resources("RT_ICON")
+        self.assertEqual(sorted(groups), ICONS)
+        for name, group in groups.items():
+            sizes = []
+            for at in range(6, len(group), 14):
+                width, height, _, _, _, bits, size, number = struct.unpack_from("<4B2HIH", group, at)
+                picture = pictures[number]
+                self.assertEqual((width, bits, size), (height, 32, len(picture)), name)
+                sizes.append(width or 256)
+                # As a bitmap the largest alone would be a quarter of a megabyte. Only Windows Vista and later ask for
+                # it, and these read the other form.
+                is_png = picture.startswith(b"\x89PNG\r\n\x1a\n")
+                self.assertEqual(is_png, width == 0, name)
+                if is_png:
+                    self.assertEqual(struct.unpack_from(">2I", picture, 16), (256, 256), name)
+                else:
+                    self.assertEqual(struct.unpack_from("<3I", picture), (40, width, 2 * height), name)
+            self.assertEqual(sizes, SIZES, name)
 
 
 class LibrariesTest(EndToEndTest):
