@@ -174,7 +174,7 @@ struct ListEvents {
 };
 
 // A table whose rows carry check boxes in their first column. It holds any number of items; they stay in the order in
-// which they were added. The columns come up as wide as their contents, at most as wide as the list's size.
+// which they were added. The columns come up as wide as their contents; the widest give way where there is no room.
 class ListView : public Control {
  public:
   ListView(Form& form, std::string name, std::vector<std::string> columnHeadings, ControlSize size,

@@ -169,6 +169,13 @@ class Probe:
         """The window of the display that shows this top-level window, or 0."""
         return int(self.ask("xwindow", handle)[0][0])
 
+    def style(self, window):
+        return int(self.ask("style", window.handle)[0][0])
+
+    def extent(self, text, width=0):
+        """Width and height of a text in the dialog font; broken into lines of a width, or in one line with its '&'."""
+        return tuple(map(int, self.ask("extent", width, text)[0]))
+
     # Messages
 
     def set_text(self, control, text):

@@ -32,6 +32,7 @@
 #include "frame/frmAbout.h"
 #include "frame/frmLog.h"
 #include "frame/frmStatus.h"
+#include "input/frmInputBoxKonto.h"
 #include "resources/texts.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
@@ -315,6 +316,7 @@ std::vector<Look> Looks() {
       {"input-anl", frmInputANL, FillInputANL},
       {"input-mer-anl", frmInputMerANL, FillInputMerANL},
       {"input-mer-fib", frmInputMerFib, FillInputMerFib},
+      {"input-konto", frmInputBoxKonto, [] {}},
       {"log", frmLog, [] { frmLog.txtProtokoll.SetText(std::string(80, '*') + "\r\nTarven Datenexport\r\n"); }},
       {"log-large", frmLog, [] { frmLog.txtProtokoll.SetText(LargeLog()); }},
       {"about", frmAbout, [] {}},

@@ -279,6 +279,7 @@ void Place(const Placement& place, int margin) {
   const int height = place.height + (drops ? kDroppedLines * TheDialogFont().lineHeight : 0);
   ::SetWindowPos(WindowOf(*place.control), nullptr, margin + place.left, margin + place.top, place.width, height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
+  if (place.control->kind == ControlKind::ListView) FitColumns(static_cast<const ListView&>(*place.control));
 }
 
 void ShowText(const Control& control) {

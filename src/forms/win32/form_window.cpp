@@ -124,10 +124,26 @@ HWND FocusOf(const FormWindow& entry) {
   return nullptr;
 }
 
-// By this message the system also moves the mark of the default button and selects the text of a field.
+// Enter presses the button that has the focus, or else the default button. The system moves the mark of the one that it
+// is with the focus, but takes it from no button other than the default one.
+void MarkDefaultButton(const FormWindow& entry, HWND focus) {
+  const Control* focused = FindControl(entry.controls, platform::NumberOf(focus));
+  const bool onButton = focused != nullptr && focused->kind == ControlKind::Button;
+  for (const Control* control : entry.controls) {
+    if (control->kind != ControlKind::Button) continue;
+    const bool isDefault = static_cast<const Button*>(control)->role == ButtonRole::Default;
+    const bool marked = onButton ? control == focused : isDefault;
+    const HWND button = platform::HandleOf<HWND>(control->now.handle);
+    const LRESULT present = ::SendMessageA(button, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON;
+    if ((present != 0) != marked) ::SendMessageA(button, BM_SETSTYLE, marked ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);
+  }
+}
+
+// By this message the system also selects the text of a field.
 void GiveFocus(const FormWindow& entry, HWND control) {
   if (control != nullptr) ::SendMessageA(entry.window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
   else ::SetFocus(entry.window);
+  MarkDefaultButton(entry, control);
 }
 
 // Messages.
@@ -371,6 +387,7 @@ void FocusTo(Control& control) {
   entry->hadFocus = false;
   // While another window is active, the focus comes with the next activation.
   if (::GetActiveWindow() == entry->window && ::IsWindowVisible(entry->window)) GiveFocus(*entry, window);
+  else MarkDefaultButton(*entry, window);
 }
 
 void IntervalChanged(Form& form, Timer& timer) {

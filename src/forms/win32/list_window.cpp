@@ -1,6 +1,9 @@
 #include "forms/win32/list_window.h"
 
 #include <algorithm>
+#include <map>
+#include <numeric>
+#include <vector>
 
 #include "forms/win32/dialog_font.h"
 #include "forms/win32/message_loop.h"
@@ -24,28 +27,45 @@ const std::string& TextOf(const ListItem& item, std::size_t column) {
   return column == 0 ? item.text : item.subItems[column - 1];
 }
 
+// What the system keeps free.
+int SpaceBesideText() { return 2 * TheDialogFont().averageWidth; }
+
 int WidestText(const ListView& list, std::size_t column) {
   int widest = WidthOfText(list.columns[column]);
   for (const ListItem& item : list.Items()) widest = std::max(widest, WidthOfText(TextOf(item, column)));
   const int box = column == 0 ? ::GetSystemMetrics(SM_CXSMICON) : 0;
-  return box + widest + 2 * TheDialogFont().averageWidth;  // the space that the system keeps beside a text
+  return box + widest + SpaceBesideText();
 }
 
-// One endless text must not push the other columns out of reach.
-int ColumnWidth(const ListView& list, std::size_t column) {
-  return std::min(WidestText(list, column), list.size.characters * TheDialogFont().averageWidth);
-}
+// Widths that the columns of the lists on show ask for, in pixels. Measuring takes a while where there are many items.
+std::map<const ListView*, std::vector<int>> wantedWidths;
 
-void FitColumns(const ListView& list) {
+// Beside the bar that scrolls through the items, whether it is there already or comes up with them.
+int RoomForColumns(const ListView& list) {
+  const HWND window = WindowOf(list);
   RECT room = {};
-  ::GetClientRect(WindowOf(list), &room);
-  int left = room.right;
-  for (std::size_t i = 0; i < list.columns.size(); ++i) {
-    int width = ColumnWidth(list, i);
-    if (i + 1 == list.columns.size()) width = std::max(width, left);  // the last one takes what is left over
+  ::GetClientRect(window, &room);
+  const bool hasBar = (::GetWindowLongA(window, GWL_STYLE) & WS_VSCROLL) != 0;
+  const bool getsBar = static_cast<int>(list.Items().size()) > Ask(window, LVM_GETCOUNTPERPAGE);
+  return room.right - (getsBar && !hasBar ? ::GetSystemMetrics(SM_CXVSCROLL) : 0);
+}
+
+// The widest columns give way to the others, so that all can be seen; what is left over the last one takes.
+std::vector<int> FittedTo(int room, std::vector<int> widths) {
+  std::vector<int> ascending = widths;
+  std::sort(ascending.begin(), ascending.end());
+  int left = std::max(room, 0);
+  int columns = static_cast<int>(widths.size());
+  for (const int width : ascending) {
+    const int share = left / columns--;
+    if (width > share) {
+      for (int& each : widths) each = std::min(each, share);
+      break;
+    }
     left -= width;
-    Ask(WindowOf(list), LVM_SETCOLUMNWIDTH, i, MAKELPARAM(width, 0));
   }
+  widths.back() += std::max(room - std::accumulate(widths.begin(), widths.end(), 0), 0);
+  return widths;
 }
 
 // What the list shows in one cell.
@@ -105,6 +125,7 @@ void SetState(HWND window, std::size_t item, UINT state) {
 }  // namespace
 
 void PrepareList(ListView& list) {
+  wantedWidths.erase(&list);  // of a window that has gone
   const HWND window = WindowOf(list);
   ::SetWindowLongA(window, GWL_USERDATA, platform::NumberOf(&list));
   originalProcedure =
@@ -135,8 +156,18 @@ Extent ExtentOfList(const ListView& list, int characters, int lines) {
 
 void ShowItems(const ListView& list) {
   Ask(WindowOf(list), LVM_SETITEMCOUNT, list.Items().size());
+  std::vector<int>& wanted = wantedWidths[&list];
+  wanted.clear();
+  for (std::size_t i = 0; i < list.columns.size(); ++i) wanted.push_back(WidestText(list, i));
   FitColumns(list);
   if (!list.Items().empty()) SetState(WindowOf(list), 0, LVIS_FOCUSED);  // where the keys begin
+}
+
+void FitColumns(const ListView& list) {
+  const auto wanted = wantedWidths.find(&list);
+  if (wanted == wantedWidths.end()) return;
+  const std::vector<int> widths = FittedTo(RoomForColumns(list), wanted->second);
+  for (std::size_t i = 0; i < widths.size(); ++i) Ask(WindowOf(list), LVM_SETCOLUMNWIDTH, i, MAKELPARAM(widths[i], 0));
 }
 
 void ShowItemCount(const ListView& list) {

@@ -18,7 +18,11 @@ Extent ExtentOfList(const ListView& list, int characters, int lines);
 // To be called when the list comes up: as many rows as there are items, columns as wide as their contents.
 void ShowItems(const ListView& list);
 
-// The same for a list that is visible already; one that is not yet shown does nothing.
+// Widths of the columns for the list's present size: the widest give way where there is too little room. Before the
+// list has come up it does nothing.
+void FitColumns(const ListView& list);
+
+// As ShowItems, for a list that is visible already; one that is not yet shown does nothing.
 void ShowItemCount(const ListView& list);
 void ShowItem(const ListView& list, std::size_t item);
 void ShowSelection(const ListView& list, std::size_t item);

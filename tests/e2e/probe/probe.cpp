@@ -8,6 +8,9 @@
 //   foreground                     handle
 //   focus WINDOW                   handle of the window with the focus, of those that share the queue of this one
 //   xwindow WINDOW                 the window of the display that shows this top-level window, or 0
+//   style WINDOW                   the style bits
+//   extent WIDTH TEXT              width and height of the text in the dialog font, broken into lines where a width is
+//                                  given; a text of one line, with its accelerator, where it is 0
 //   text WINDOW                    text, asked by message
 //   settext WINDOW TEXT            answer to WM_SETTEXT
 //   post WINDOW MESSAGE W L        1 when posted
@@ -289,6 +292,22 @@ void Focus(const Fields& fields) {
   Answer({Number(information.hwndFocus)});
 }
 
+void ExtentOfText(const Fields& fields) {
+  NONCLIENTMETRICSA metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  HDC screen = GetDC(nullptr);
+  HFONT font = CreateFontIndirectA(&metrics.lfMessageFont);
+  HGDIOBJ former = SelectObject(screen, font);
+  RECT room{0, 0, static_cast<LONG>(ToNumber(fields[1])), 0};
+  UINT drawing = room.right == 0 ? DT_SINGLELINE : DT_NOPREFIX | DT_EXPANDTABS | DT_WORDBREAK | DT_EDITCONTROL;
+  DrawTextA(screen, fields[2].c_str(), -1, &room, drawing | DT_CALCRECT);
+  SelectObject(screen, former);
+  DeleteObject(font);
+  ReleaseDC(nullptr, screen);
+  Answer({Number(room.right), Number(room.bottom)});
+}
+
 // The clipboard needs an owner for what is put on it.
 HWND ClipboardOwner() {
   static const HWND owner =
@@ -343,6 +362,8 @@ const std::map<std::string, Command>& Commands() {
         [](const Fields& f) {
           Answer({Number(static_cast<HWND>(GetPropA(Window(f[1]), "__wine_x11_whole_window")))});
         }}},
+      {"style", {1, [](const Fields& f) { Answer({Number(GetWindowLongA(Window(f[1]), GWL_STYLE))}); }}},
+      {"extent", {2, ExtentOfText}},
       {"text", {1, [](const Fields& f) { Answer({TextOf(Window(f[1]))}); }}},
       {"settext",
        {2,
