@@ -2,6 +2,7 @@
 
 import datetime
 import re
+import shutil
 import unittest
 
 from harness import (
@@ -9,6 +10,7 @@ from harness import (
     CODE_PAGE,
     COMPLETED,
     DESTINATION,
+    FOLDER,
     PROGRAM,
     REGISTRY_KEY,
     STARS,
@@ -17,6 +19,7 @@ from harness import (
     EndToEndTest,
     wait_until,
 )
+from probe import WM_CLOSE
 
 STOPPED = "Die Verarbeitung wurde angehalten."
 STARTED = "Tarven Datenexport wurde gestartet..."
@@ -165,6 +168,32 @@ class ChoiceTest(LogTest):
             STARS,
         )
         self.assertTrue(self.desktop.host_path(path).is_dir())
+
+
+class ProgramStartTest(LogTest):
+    def test_the_longest_beginning_that_is_a_program_is_started(self):
+        (self.folder / "Mein Ordner").mkdir()
+        for name in ("Mein.exe", "Mein Ordner/das Programm.exe"):
+            shutil.copy(WINDOWS_BUILD / "TERU.EXE", self.folder / name)
+        self.start_program()
+        self.lay_macro(
+            f'EXEC="{FOLDER}\\Mein Ordner\\das Programm.exe" --caption Gestartet\n'
+            "WAITFORWINDOW=Gestartet,0,,,0\n"
+            "EXEC=\n"
+        )
+        self.start_teru()
+        self.press()
+        self.status_dialog("Programm kann nicht ausgeführt werden: ")
+        self.assertEqual(len(self.probe.processes("das Programm.exe")), 1)
+        self.assertEqual(self.probe.processes("Mein.exe"), [])
+        self.assert_log(
+            *self.header(),
+            f"Programm wird ausgeführt: {FOLDER}\\Mein Ordner\\das Programm.exe --caption Gestartet",
+            FOUND,
+            "Programm kann nicht ausgeführt werden: ",
+        )
+        self.probe.post(self.probe.window("Gestartet"), WM_CLOSE)
+        wait_until(lambda: not self.probe.processes("das Programm.exe"), "the end of the program that was started")
 
 
 class StatusDialogTest(LogTest):

@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/files.h"
 #include "platform/messages.h"
 #include "platform/simulated/state.h"
+#include "platform/system.h"
 #include "runtime/text.h"
 
 namespace platform {
@@ -119,9 +121,21 @@ std::int32_t LoadIconA(const std::string& name) {
   return found == kIcons.end() ? 0 : kFirstIcon + static_cast<std::int32_t>(found - kIcons.begin());
 }
 
+std::string SearchPathA(const std::string& lpFileName, const std::string& lpExtension) {
+  const std::string lastName = lpFileName.substr(lpFileName.find_last_of("\\/:") + 1);
+  const std::string name = lpFileName + (runtime::Contains(lastName, ".") ? "" : lpExtension);
+  if (lastName.empty()) return "";
+  if (lastName.size() < lpFileName.size()) return FileExists(name) ? name : "";
+  std::vector<std::string> folders = {ApplicationPath(), CurrentDirectory()};
+  for (const std::string& folder : runtime::Split(GetEnvironmentVariableA("PATH"), ';')) folders.push_back(folder);
+  for (const std::string& folder : folders)
+    if (!folder.empty() && FileExists(folder + "\\" + name)) return folder + "\\" + name;
+  return "";
+}
+
 std::uint32_t StartProgram(const std::string& command, std::uint32_t showStyle) {
   Desktop& desktop = TheDesktop();
-  if (Fails("StartProgram") || std::ranges::count(desktop.missingPrograms, command) != 0) return 0;
+  if (command.empty() || Fails("StartProgram") || std::ranges::count(desktop.missingPrograms, command) != 0) return 0;
   desktop.startedPrograms.push_back({command, showStyle});
   return desktop.nextProcess++;
 }
