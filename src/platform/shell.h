@@ -24,6 +24,9 @@ WNDPROC SetWindowLongA(std::int32_t hWnd, std::int32_t nIndex, WNDPROC dwNewLong
 std::int32_t CallWindowProcA(WNDPROC lpPrevWndFunc, std::int32_t hWnd, std::uint32_t Msg, std::int32_t wParam,
                              std::int32_t lParam);
 
+// The number of the message of this name, without case: the same for all programs, above all fixed numbers.
+std::uint32_t RegisterWindowMessageA(const std::string& lpString);
+
 constexpr std::uint32_t NIM_ADD = 0;
 constexpr std::uint32_t NIM_MODIFY = 1;
 constexpr std::uint32_t NIM_DELETE = 2;

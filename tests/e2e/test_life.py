@@ -16,6 +16,7 @@ from harness import (
     STARS,
     TITLE,
     WINDOWS_BUILD,
+    WM_NULL,
     EndToEndTest,
     wait_until,
 )
@@ -307,6 +308,22 @@ class OrderTest(LogTest):
         status = self.end_a_run()
         self.choose_from_menu("Info")
         self.assert_above(self.dialog("&Systeminfo...", title="Info"), status)
+
+
+class ShellTest(LogTest):
+    def test_a_shell_that_starts_anew_gets_the_icon_back(self):
+        process = self.start_program()
+        form = self.main_form(process)
+        wait_until(self.icons, "the icon")
+        self.probe.remove_icon(form, 1)
+        wait_until(lambda: not self.icons(), "the end of the icon")
+        self.probe.broadcast("TaskbarCreated")
+        wait_until(self.icons, "the icon again")
+        self.probe.broadcast("TaskbarCreated")
+        self.probe.send(form, WM_NULL)
+        self.assertEqual(len(self.icons()), 1)
+        self.choose_from_menu("Beenden")
+        wait_until(lambda: not self.probe.processes(PROGRAM), "the end of the program")
 
 
 class MenuTest(LogTest):

@@ -93,6 +93,16 @@ TEST_F(SearchPath, FindsABareNameInTheFoldersOfPath) {
   EXPECT_TRUE(runtime::EqualIgnoringCase(found, contract::Path("contract tool.exe"))) << found;
 }
 
+class RegisteredMessage : public contract::Test {};
+
+TEST_F(RegisteredMessage, HasOneNumberForItsNameInAnyCase) {
+  const auto number = platform::RegisterWindowMessageA("TaskbarCreated");
+  EXPECT_GE(number, 0xC000u);
+  EXPECT_LE(number, 0xFFFFu);
+  EXPECT_EQ(platform::RegisterWindowMessageA("TASKBARCREATED"), number);
+  EXPECT_NE(platform::RegisterWindowMessageA("ContractMessage"), number);
+}
+
 class HotKey : public contract::Test {
  protected:
   static constexpr std::uint32_t kKey = 121;  // F10

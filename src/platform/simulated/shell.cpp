@@ -66,6 +66,12 @@ void OccupyHotKey(std::uint32_t modifiers, std::uint32_t key) {
 const std::optional<TrayIcon>& Tray() { return TheDesktop().tray; }
 const std::vector<TrayCall>& TrayCalls() { return TheDesktop().trayCalls; }
 
+void RestartShell() {
+  TheDesktop().tray.reset();
+  const auto created = static_cast<std::uint32_t>(RegisterWindowMessageA("TaskbarCreated"));
+  for (const std::int32_t hWnd : TheDesktop().topLevel) PostMessageA(hWnd, created, 0, 0);
+}
+
 void MouseAtTray(std::uint32_t message) {
   const auto& tray = Tray();
   if (!tray || (tray->record.uFlags & NIF_MESSAGE) == 0) return;
@@ -119,6 +125,15 @@ std::int32_t LoadIconA(const std::string& name) {
   const auto found = std::find_if(kIcons.begin(), kIcons.end(),
                                   [&](const char* icon) { return runtime::EqualIgnoringCase(icon, name); });
   return found == kIcons.end() ? 0 : kFirstIcon + static_cast<std::int32_t>(found - kIcons.begin());
+}
+
+std::uint32_t RegisterWindowMessageA(const std::string& lpString) {
+  constexpr std::uint32_t kFirst = 0xC000;
+  auto& names = TheDesktop().messageNames;
+  const auto name = std::ranges::find(names, runtime::ToUpper(lpString));
+  const auto number = kFirst + static_cast<std::uint32_t>(name - names.begin());
+  if (name == names.end()) names.push_back(runtime::ToUpper(lpString));
+  return number;
 }
 
 std::string SearchPathA(const std::string& lpFileName, const std::string& lpExtension) {

@@ -49,6 +49,10 @@ std::int32_t LoadIconA(const std::string& name) {
                                ::GetSystemMetrics(SM_CYSMICON), LR_SHARED));
 }
 
+std::uint32_t RegisterWindowMessageA(const std::string& lpString) {
+  return ::RegisterWindowMessageA(lpString.c_str());
+}
+
 std::string SearchPathA(const std::string& lpFileName, const std::string& lpExtension) {
   std::string path(MAX_PATH, '\0');
   const DWORD length = ::SearchPathA(nullptr, lpFileName.c_str(), lpExtension.c_str(), MAX_PATH, path.data(), nullptr);
