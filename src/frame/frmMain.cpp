@@ -16,6 +16,7 @@
 #include "platform/system.h"
 #include "resources/texts.h"
 #include "runtime/fault.h"
+#include "runtime/memory_reserve.h"
 
 namespace basMain {
 namespace {
@@ -45,6 +46,7 @@ MainForm::MainForm()
 void MainForm::Form_Load() {
   trayEvent_ = false;
   iconMissing_ = false;
+  Skip([] { runtime::HoldMemoryReserve(); });
   FileSystemState.emplace();
   Skip([] { OpenLog(); });
   Skip([] { GetTeRuDestination(); });  // asks its questions before the program can be triggered
@@ -141,7 +143,7 @@ std::int32_t PLATFORM_CALLBACK MainWindowProc(std::int32_t hWnd, std::uint32_t u
     platform::SetWindowLongA(hWnd, platform::GWL_WNDPROC, OldWindowProc);
     platform::UnregisterHotKey(hWnd, kHotKey);
   }
-  if (uMsg == platform::WM_HOTKEY) frmMain.Hotkey();
+  if (uMsg == platform::WM_HOTKEY) Skip([] { frmMain.Hotkey(); });
   else frmMain.KeepIcon(uMsg);
   return platform::CallWindowProcA(OldWindowProc, hWnd, uMsg, wParam, lParam);
 }

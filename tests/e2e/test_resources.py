@@ -1,6 +1,7 @@
 """What the program costs: its size, the time until it is ready, and nothing that it keeps from run to run."""
 
 import re
+import struct
 import subprocess
 import time
 import unittest
@@ -54,6 +55,16 @@ class ImportsTest(unittest.TestCase):
         functions = re.findall(r"^\t[0-9a-f]+\t +\d+ +(\w+)$", self.imports, re.MULTILINE)
         self.assertIn("CreateFileA", functions)
         self.assertEqual(set(functions) & LATER, set())
+
+
+class HeaderTest(unittest.TestCase):
+    def test_program_uses_all_addresses_of_a_32_bit_program(self):
+        program = (WINDOWS_BUILD / "QUMAEXP.EXE").read_bytes()
+        header = struct.unpack_from("<I", program, 0x3C)[0]
+        self.assertEqual(program[header : header + 4], b"PE\0\0")
+        characteristics = struct.unpack_from("<H", program, header + 22)[0]
+        large_address_aware = 0x20
+        self.assertTrue(characteristics & large_address_aware)
 
 
 class ResourcesTest(EndToEndTest):
