@@ -19,8 +19,8 @@ using resources::TextId;
 namespace {
 
 // Double quotes vanish from a macro's line, and the system starts the shortest beginning of a command that could be a
-// program. This one names the longest that is one, in quotes; a command of which none is stays as it is, and so does one
-// that brings quotes of its own.
+// program. This one names the longest that is one, in quotes; a command of which none is stays as it is, and so does
+// one that brings quotes of its own.
 std::string WithProgramInQuotes(const std::string& command) {
   constexpr std::size_t kLongestPath = 259;
   if (runtime::Contains(command, "\"")) return command;
@@ -37,9 +37,8 @@ std::string WithProgramInQuotes(const std::string& command) {
 
 bool ExecuteProgram(const std::string& command) {
   std::uint32_t process = 0;
-  runtime::Skip([&] {
-    process = platform::StartProgram(WithProgramInQuotes(runtime::Trim(command)), platform::SW_SHOWNORMAL);
-  });
+  runtime::Skip(
+      [&] { process = platform::StartProgram(WithProgramInQuotes(runtime::Trim(command)), platform::SW_SHOWNORMAL); });
   if (process == 0) {
     run.LastError = Text(TextId::ProgramNotStarted) + command;
     return false;

@@ -22,7 +22,9 @@ constexpr std::int64_t kFewest = 1 << 10;
 constexpr std::int64_t kCost = 128;
 
 // Faults: OutOfMemory when there is no room to show so many bytes.
-void NeedRoomToShow(std::int64_t bytes) { std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(bytes * kCost)); }
+void NeedRoomToShow(std::int64_t bytes) {
+  std::make_unique_for_overwrite<char[]>(static_cast<std::size_t>(bytes * kCost));
+}
 
 // The whole log, or, of one that has more bytes, whole lines of its end behind a line that says so.
 std::string EndOfLog(std::int64_t most) {

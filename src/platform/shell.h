@@ -51,9 +51,9 @@ bool Shell_NotifyIconA(std::uint32_t dwMessage, const NOTIFYICONDATA& lpData);
 // Icon of the program's resources in the size of the notification area; shared, so nobody destroys it. 0 if unknown.
 std::int32_t LoadIconA(const std::string& name);
 
-// Path of the file that the system would start by this name, which may lack its extension (such as ".exe"): where a path
-// stands, that file, else the first in the program's folder, the present one, the system's and those of PATH. Empty when
-// there is none, or only a folder.
+// Path of the file that the system would start by this name, which may lack its extension (such as ".exe"): where a
+// path stands, that file, else the first in the program's folder, the present one, the system's and those of PATH.
+// Empty when there is none, or only a folder.
 std::string SearchPathA(const std::string& lpFileName, const std::string& lpExtension);
 
 // Starts a command line in a window of the given show style and does not wait. Yields the process id, 0 on failure.

@@ -45,8 +45,8 @@ struct Fault {
   explicit Fault(FaultNumber n) : number(n), description(FaultDescription(n)) {}
 };
 
-// The fault that is being handled, for a `catch (...)`: a Fault, or OutOfMemory for memory that the run-time library could
-// not give. Any other exception goes on its way.
+// The fault that is being handled, for a `catch (...)`: a Fault, or OutOfMemory for memory that the run-time library
+// could not give. Any other exception goes on its way.
 Fault CaughtFault();
 
 // Skip mode: carries out one statement and passes over its fault. Reports nothing.

@@ -13,8 +13,8 @@ namespace platform {
 namespace {
 
 // Where an entry is put. The message names no size, and the length that the control tells can be wrong, or right no
-// longer. So there is room for the longest entry, and behind it a place that cannot be written: the system then ends the
-// copy of a longer one.
+// longer. So there is room for the longest entry, and behind it a place that cannot be written: the system then ends
+// the copy of a longer one.
 class EntryRoom {
  public:
   EntryRoom() : start_(::VirtualAlloc(nullptr, kSize + kGuard, MEM_RESERVE, PAGE_NOACCESS)) {
@@ -69,6 +69,9 @@ std::int32_t ReadEntry(std::int32_t hWnd, std::int32_t index, TextBuffer& target
 }  // namespace
 
 std::int32_t SendMessageA(std::int32_t hWnd, std::uint32_t Msg, std::int32_t wParam, std::int32_t lParam) {
+  // Asked for the length of 8-bit text, some versions of the system fetch the entry into room of the length told first.
+  if (Msg == CB_GETLBTEXTLEN && !IsFamily9x())
+    return static_cast<std::int32_t>(::SendMessageW(HandleOf<HWND>(hWnd), Msg, static_cast<WPARAM>(wParam), lParam));
   return static_cast<std::int32_t>(::SendMessageA(HandleOf<HWND>(hWnd), Msg, static_cast<WPARAM>(wParam), lParam));
 }
 

@@ -49,9 +49,7 @@ std::int32_t LoadIconA(const std::string& name) {
                                ::GetSystemMetrics(SM_CYSMICON), LR_SHARED));
 }
 
-std::uint32_t RegisterWindowMessageA(const std::string& lpString) {
-  return ::RegisterWindowMessageA(lpString.c_str());
-}
+std::uint32_t RegisterWindowMessageA(const std::string& lpString) { return ::RegisterWindowMessageA(lpString.c_str()); }
 
 std::string SearchPathA(const std::string& lpFileName, const std::string& lpExtension) {
   std::string path(MAX_PATH, '\0');
