@@ -21,6 +21,9 @@ namespace {
 using resources::Text;
 using resources::TextId;
 
+// No list holds more; a count beyond that is none.
+constexpr std::int32_t kMostEntries = 1000000;
+
 // The control of all three; no direct child has precedence here.
 std::int32_t FindComboBox(const ControlAddress& address) {
   return FindDescendant(FindAddressedWindow(address), address);
@@ -44,10 +47,9 @@ void NotifyParent(std::int32_t combo, std::int32_t id, std::int16_t notification
 // Faults: InvalidCall for a length of -1, as that of an entry that does not exist; OutOfMemory for one that no list
 // holds.
 std::string EntryText(std::int32_t combo, std::int32_t index) {
-  constexpr std::int32_t kLongest = 0x1000000;
   const std::int32_t length = platform::SendMessageA(combo, platform::CB_GETLBTEXTLEN, index, 0);
   if (length < 0) throw runtime::Fault(runtime::FaultNumber::InvalidCall);
-  if (length > kLongest) throw runtime::Fault(runtime::FaultNumber::OutOfMemory);
+  if (length > platform::kLongestEntry) throw runtime::Fault(runtime::FaultNumber::OutOfMemory);
   platform::TextBuffer buffer(static_cast<std::size_t>(length));
   const std::int32_t copied = platform::SendMessageA(combo, platform::CB_GETLBTEXT, index, buffer);
   return runtime::Left(buffer.bytes, copied);
@@ -85,6 +87,7 @@ bool ReadCombo(const std::string& id, const std::string& cls, const std::string&
       return false;
     }
     const std::int32_t count = platform::SendMessageA(combo, platform::CB_GETCOUNT, 0, 0);
+    if (count > kMostEntries) throw runtime::Fault(runtime::FaultNumber::OutOfMemory);
     for (std::int32_t i = 0; i < count; ++i) automation.ComboItems += EntryText(combo, i) + ";";
     LogWrite(Text(TextId::ComboSelected) + " " + automation.ComboItems.substr(0, 50) + "...");
     return true;

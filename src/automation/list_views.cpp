@@ -211,7 +211,7 @@ bool SelectList(const std::string& id, const std::string& window, const std::str
     }
     const std::int32_t mark = platform::SendMessageA(list, platform::LVM_GETSELECTIONMARK, 0, 0);
     const std::int32_t count = CountRows(list);
-    if (count == 0) return false;
+    if (count <= 0) return false;
     constexpr std::int32_t kCurrentClientOnly = 2;
     if (clients.InputState == kCurrentClientOnly) automation.ListIndex = mark;
     const ListItem item = {
@@ -238,7 +238,7 @@ bool ReadListItem(const std::string& value, const std::string& id, const std::st
     // The list sees the question; the answer is not used.
     platform::SendMessageA(list, platform::LVM_GETSELECTEDCOUNT, 0, 0);
     const std::int32_t count = CountRows(list);
-    if (count == 0) return false;
+    if (count <= 0) return false;
     if (!FindValue(list, count, value)) {
       run.LastError = Text(TextId::ValueNotInList, value);
       return false;
@@ -259,7 +259,7 @@ std::string GetListItemText(std::int32_t column, const std::string& id, const st
       result = kUnknown;
       return false;
     }
-    if (CountRows(list) == 0) return true;
+    if (CountRows(list) <= 0) return true;
     const std::string text = ReadCell(list, automation.ListIndex - 1, column);
     result = text.empty() ? kUnknown : text;
     return true;

@@ -107,9 +107,14 @@ void CollectChildWindows(std::int32_t hParent) {
 }
 
 std::int32_t PLATFORM_CALLBACK CollectChildProc(std::int32_t hWnd, std::int32_t /*lParam*/) {
-  automation.ChildWindowList.back() = hWnd;
-  automation.ChildWindowList.push_back(0);
-  return 1;
+  // No exception can pass through the system, which calls this: a list that memory does not hold ends here.
+  bool added = false;
+  Skip([&] {
+    automation.ChildWindowList.push_back(0);
+    *(automation.ChildWindowList.end() - 2) = hWnd;
+    added = true;
+  });
+  return added;
 }
 
 std::int32_t MakeLong(std::int16_t low, std::int16_t high) { return high * 65536 + low; }

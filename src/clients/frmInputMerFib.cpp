@@ -150,8 +150,8 @@ bool InputMerFibForm::WriteClientYears() {
     }
     WriteLines(from, span);
     return true;
-  } catch (const runtime::Fault& fault) {
-    message_ = "Fehler beim erzeugen der Mandantenmatrix: " + fault.description;
+  } catch (...) {
+    message_ = "Fehler beim erzeugen der Mandantenmatrix: " + runtime::CaughtFault().description;
     return false;
   }
 }

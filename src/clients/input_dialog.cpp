@@ -51,7 +51,8 @@ bool AskUser(InputDialog& dialog, const std::function<bool()>& fill) {
       return false;
     }
     dialog.ShowModal();
-  } catch (const runtime::Fault&) {
+  } catch (...) {
+    runtime::CaughtFault();
     dialog.Unload();
     throw;
   }

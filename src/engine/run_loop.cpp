@@ -14,6 +14,7 @@
 #include "frame/log.h"
 #include "resources/texts.h"
 #include "runtime/fault.h"
+#include "runtime/memory_reserve.h"
 #include "runtime/text.h"
 
 namespace basMain {
@@ -50,6 +51,23 @@ void StartRun(std::int32_t startLine) {
   frmStatus.Info(Text(TextId::RunInProgress));
 }
 
+// Carries out a statement of the line handling. Its fault fails the run, and the next statement follows.
+template <class Statement>
+void FailOnFault(Statement&& statement) {
+  try {
+    std::forward<Statement>(statement)();
+  } catch (...) {
+    run.RunFailed = true;
+    run.LastError = StandardErrorText("MakroAction", runtime::CaughtFault());
+  }
+}
+
+// A macro that memory does not hold would do half of its work.
+void FailOnMakroTooLarge() {
+  run.RunFailed = true;
+  run.LastError = StandardErrorText("LoadFile", runtime::Fault(runtime::FaultNumber::OutOfMemory));
+}
+
 void RunLines(std::int32_t startLine) {
   for (std::int32_t i = startLine; i <= LastLine() && !run.StopRun && !run.RunFailed; ++i) {
     if (run.GotoLine > 0) {
@@ -57,9 +75,12 @@ void RunLines(std::int32_t startLine) {
       run.GotoLine = 0;
     }
     if (run.LoopBack) i = run.CurrentLine = run.LoopStart;  // the "DO" line that now runs clears the flag
-    std::string line = Line(i);
-    if (lineWatch.Visited) lineWatch.Visited(i, line);
-    MakroAction(std::move(line));
+    const std::string& line = Line(i);
+    FailOnFault([&] {
+      runtime::HoldMemoryReserve();
+      if (lineWatch.Visited) lineWatch.Visited(i, line);
+      MakroAction(line);
+    });
     if (lineWatch.Done) lineWatch.Done(i);
     ++run.CurrentLine;
     if (run.LoopStart == 0) frmStatus.ProgressBar.SetValue(run.CurrentLine);
@@ -71,6 +92,7 @@ void RunLines(std::int32_t startLine) {
 bool ProcessMakro(std::int32_t startLine) {
   return Standard("ProcessMakro", [&] {
     StartRun(startLine);
+    if (run.MakroTooLarge) FailOnMakroTooLarge();
     RunLines(startLine);
     if (run.RunFailed && !run.StopRun) {
       frmMain.SwitchTray(2);
@@ -105,12 +127,8 @@ void MakroAction(std::string line) {
   command = runtime::Remove(command, '=');
   command = runtime::Remove(runtime::Replace(command, "(", "="), ')');
   const std::string result = MakroExecute(command);
-  try {
-    run.UserVariables.SetValue(*variable, result);
-  } catch (const runtime::Fault& fault) {  // a nested run has replaced the variables meanwhile
-    run.LastError = StandardErrorText("MakroAction", fault);
-    run.RunFailed = true;
-  }
+  // A nested run may have replaced the variables meanwhile.
+  FailOnFault([&] { run.UserVariables.SetValue(*variable, result); });
 }
 
 bool GoToLine(const std::string& name) {

@@ -19,8 +19,8 @@ template <class Body>
 bool Standard(const std::string& routine, Body&& body) {
   try {
     return std::forward<Body>(body)();
-  } catch (const runtime::Fault& fault) {
-    run.LastError = StandardErrorText(routine, fault);
+  } catch (...) {
+    run.LastError = StandardErrorText(routine, runtime::CaughtFault());
     return false;
   }
 }
@@ -29,8 +29,8 @@ template <class Statement>
 void NoteFault(const std::string& routine, Statement&& statement) {
   try {
     std::forward<Statement>(statement)();
-  } catch (const runtime::Fault& fault) {
-    run.LastError = StandardErrorText(routine, fault);
+  } catch (...) {
+    run.LastError = StandardErrorText(routine, runtime::CaughtFault());
   }
 }
 

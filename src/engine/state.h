@@ -18,6 +18,7 @@ struct RunState {
   // First line of each jump mark, by the whole line folded to upper case, so that a GOTO need not read the macro.
   std::unordered_map<std::string, std::int32_t> Marks;
   UserVariableTable UserVariables;
+  bool MakroTooLarge = false;  // memory does not hold the file: there are no lines, and every run fails
 
   std::int32_t CurrentLine = 0;  // index of the running line; after a line that of the next one
   bool ExecEnabled = false;      // false: inside the skipped side of a condition

@@ -1,13 +1,18 @@
 #include "engine/user_variables.h"
 
+#include <utility>
+
 #include "runtime/fault.h"
 
 namespace basMain {
 
 void UserVariableTable::Declare(const std::string& name) {
-  records_.back().Name = name;
-  first_.try_emplace(name, records_.size() - 1);
+  std::string copy = name;
+  // What can fail comes first, so that the table keeps its spare record when memory runs out.
   records_.emplace_back();
+  const std::size_t declared = records_.size() - 2;
+  records_[declared].Name = std::move(copy);
+  first_.try_emplace(name, declared);
 }
 
 std::optional<std::size_t> UserVariableTable::FindDeclared(const std::string& name) const {

@@ -298,9 +298,9 @@ std::string MakroExecute(const std::string& line) {
     if (verb != nullptr) ok = CarryOut(*verb, a, value);
     else if (run.ExecEnabled) run.LastError = resources::Text(resources::TextId::UnknownCommand) + word;
     if (!ok && run.ExecEnabled) run.RunFailed = true;
-  } catch (const runtime::Fault& fault) {
-    run.LastError = StandardErrorText("MakroExecute", fault);
+  } catch (...) {
     run.RunFailed = true;
+    run.LastError = StandardErrorText("MakroExecute", runtime::CaughtFault());
   }
   return value;
 }

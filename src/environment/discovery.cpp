@@ -79,8 +79,8 @@ std::string GetTeRuDestination() {
     basAPI::CreatePath(directory);
     if (directory.ends_with('\\')) directory.pop_back();
     return directory;
-  } catch (const runtime::Fault& fault) {
-    LogWrite(StandardErrorText("GetTeRuDestination", fault));
+  } catch (...) {
+    LogWrite(StandardErrorText("GetTeRuDestination", runtime::CaughtFault()));
     return "";
   }
 }

@@ -81,7 +81,8 @@ std::string GetMandantPath(const std::string& module) {
     if (!folder.empty()) mandantPath = WithoutYear(path) + folder;
     Skip([&] { platform::CloseFile(file); });
     return mandantPath;
-  } catch (const Fault&) {
+  } catch (...) {
+    runtime::CaughtFault();
     return "";
   }
 }
@@ -96,8 +97,8 @@ std::string GetTemp() {
     const std::uint32_t length = platform::GetLongPathNameA(path, longPath, 256);
     // A path that the buffer did not hold is used with its short names.
     if (length > 0 && !longPath.empty()) path = longPath.substr(0, length);
-  } catch (const Fault& fault) {
-    LogWrite("GetTemp: " + fault.description);
+  } catch (...) {
+    LogWrite("GetTemp: " + runtime::CaughtFault().description);
   }
   return path;
 }

@@ -102,7 +102,8 @@ bool CopyFile(const std::string& source, const std::string& destination) {
     FileSystem().CopyFile(source, destination);
     LogWrite("CopyFile " + source + " To " + destination);
     return true;
-  } catch (const runtime::Fault& fault) {
+  } catch (...) {
+    const runtime::Fault fault = runtime::CaughtFault();
     run.LastError = "Fehler " + std::to_string(static_cast<int>(fault.number)) + " beim Kopieren: " + fault.description;
     return false;
   }

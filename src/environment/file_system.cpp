@@ -85,6 +85,8 @@ TextStream::~TextStream() {
 void TextStream::Write(const std::string& text) { platform::WriteFile(file_, text); }
 void TextStream::WriteLine(const std::string& text) { platform::WriteFile(file_, text + "\r\n"); }
 
+void TextStream::SkipTo(std::int64_t position) { platform::SetFilePointer(file_, position); }
+
 std::string TextStream::ReadAll() {
   std::string text;
   while (Fill()) {

@@ -24,6 +24,9 @@ class TextStream {
   void Write(const std::string& text);
   void WriteLine(const std::string& text);
 
+  // Moves on to a byte, counted from the start of the file; before anything is read.
+  void SkipTo(std::int64_t position);
+
   // Everything from the present position to the end.
   std::string ReadAll();
 

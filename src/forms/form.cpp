@@ -75,8 +75,13 @@ Form::Form(std::string formName, std::string formTitle, FormStyle formStyle)
 void Form::Load() {
   if (loaded_) return;
   loaded_ = true;
-  for (Control* control : controls_) control->Reset();
-  handle_ = realization::Create(*this);
+  try {
+    for (Control* control : controls_) control->Reset();
+    handle_ = realization::Create(*this);
+  } catch (...) {
+    WindowGone();
+    throw;
+  }
   Form_Load();
 }
 

@@ -16,6 +16,7 @@
 #include "platform/system.h"
 #include "resources/texts.h"
 #include "runtime/fault.h"
+#include "runtime/memory_reserve.h"
 
 namespace basMain {
 namespace {
@@ -44,11 +45,13 @@ MainForm::MainForm()
 
 void MainForm::Form_Load() {
   trayEvent_ = false;
+  iconMissing_ = false;
+  Skip([] { runtime::HoldMemoryReserve(); });
   FileSystemState.emplace();
   Skip([] { OpenLog(); });
   Skip([] { GetTeRuDestination(); });  // asks its questions before the program can be triggered
   Skip([&] { icon_ = platform::LoadIconA("ICOQUM"); });
-  Skip([&] { platform::Shell_NotifyIconA(platform::NIM_ADD, TrayRecord()); });
+  Skip([&] { iconMissing_ = !platform::Shell_NotifyIconA(platform::NIM_ADD, TrayRecord()); });
   bool registered = false;
   Skip([&] { registered = platform::RegisterHotKey(hWnd(), kHotKey, platform::MOD_ALT, platform::VK_F12); });
   if (!registered) {
@@ -58,6 +61,7 @@ void MainForm::Form_Load() {
     Skip([&] { platform::Shell_NotifyIconA(platform::NIM_DELETE, TrayRecord()); });
     platform::EndProgram();
   }
+  Skip([&] { taskbarCreated_ = platform::RegisterWindowMessageA("TaskbarCreated"); });
   Skip([&] { OldWindowProc = platform::SetWindowLongA(hWnd(), platform::GWL_WNDPROC, MainWindowProc); });
 }
 
@@ -77,7 +81,21 @@ void MainForm::SwitchTray(std::int16_t state) {
   if (!Loaded()) return;  // no icon to switch: the macro runs without the program around it
   const char* const icons[] = {"ICOQUM", "ICOEXP", "ICOERR"};
   if (state >= 0 && state <= 2) Skip([&] { icon_ = platform::LoadIconA(icons[state]); });
-  Skip([&] { platform::Shell_NotifyIconA(platform::NIM_MODIFY, TrayRecord()); });
+  ShowIcon();
+}
+
+void MainForm::ShowIcon() {
+  iconMissing_ = false;  // the answer of a shell that is busy can take a while, in which messages arrive
+  bool shown = false;
+  Skip([&] {
+    shown = platform::Shell_NotifyIconA(platform::NIM_MODIFY, TrayRecord()) ||
+            platform::Shell_NotifyIconA(platform::NIM_ADD, TrayRecord());
+  });
+  iconMissing_ = !shown;
+}
+
+void MainForm::KeepIcon(std::uint32_t message) {
+  if (iconMissing_ || message == taskbarCreated_) ShowIcon();
 }
 
 void MainForm::Form_Activate() { Hide(); }
@@ -92,6 +110,7 @@ void MainForm::Form_MouseMove(double X) {
 }
 
 void MainForm::Form_QueryUnload() {
+  iconMissing_ = false;
   Skip([&] { platform::Shell_NotifyIconA(platform::NIM_DELETE, TrayRecord()); });
   log.LogStream.reset();
   FileSystemState.reset();
@@ -124,7 +143,8 @@ std::int32_t PLATFORM_CALLBACK MainWindowProc(std::int32_t hWnd, std::uint32_t u
     platform::SetWindowLongA(hWnd, platform::GWL_WNDPROC, OldWindowProc);
     platform::UnregisterHotKey(hWnd, kHotKey);
   }
-  if (uMsg == platform::WM_HOTKEY) frmMain.Hotkey();
+  if (uMsg == platform::WM_HOTKEY) Skip([] { frmMain.Hotkey(); });
+  else frmMain.KeepIcon(uMsg);
   return platform::CallWindowProcA(OldWindowProc, hWnd, uMsg, wParam, lParam);
 }
 

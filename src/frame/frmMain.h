@@ -15,6 +15,10 @@ struct MainForm : forms::Form {
   // Shows the state of the program in the notification area: 0 idle, 1 running, 2 failed. Another value keeps the icon.
   void SwitchTray(std::int16_t state);
 
+  // Looks after the icon whenever a message arrives: puts it up again after the shell has started anew, and tries again
+  // while the notification area has not taken it, as before the shell is up.
+  void KeepIcon(std::uint32_t message);
+
   // One press of the hot key: chooses the macro by the foreground window's caption, confirms client and year where the
   // settings want it, and runs the macro. Returns when the run has ended or has failed. No fault stops it: each faulty
   // statement is skipped.
@@ -35,9 +39,13 @@ struct MainForm : forms::Form {
 
  private:
   platform::NOTIFYICONDATA TrayRecord() const;
+  // Changes the icon, or adds it where there is none.
+  void ShowIcon();
 
-  std::int32_t icon_ = 0;   // the one that the notification area shows
-  bool trayEvent_ = false;  // guards Form_MouseMove against re-entry
+  std::int32_t icon_ = 0;             // the one that the notification area shows
+  bool iconMissing_ = false;          // ... or did not take
+  std::uint32_t taskbarCreated_ = 0;  // number of the message by which a new shell tells of itself; 0: not known
+  bool trayEvent_ = false;            // guards Form_MouseMove against re-entry
 };
 
 extern MainForm frmMain;

@@ -41,6 +41,9 @@ std::int32_t OpenFile(const std::string& path, FileMode mode);
 // Reads at most size bytes and yields their count; 0 at the end of the file.
 std::size_t ReadFile(std::int32_t hFile, char* buffer, std::size_t size);
 
+// Moves on to a byte of the file, counted from its start, at which the next read begins.
+void SetFilePointer(std::int32_t hFile, std::int64_t position);
+
 // Writes all bytes, straight to the system, without a buffer in between.
 void WriteFile(std::int32_t hFile, std::string_view bytes);
 

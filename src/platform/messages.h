@@ -52,9 +52,12 @@ constexpr std::uint32_t LVM_GETITEMTEXTW = 4171;
 // Folder browser dialogs.
 constexpr std::uint32_t BFFM_SETSELECTIONA = 1126;
 
+// Characters of an entry of a combo box; no list holds a longer one.
+constexpr std::int32_t kLongestEntry = 1000000;
+
 // A read buffer of fixed size, filled with NULs. WM_GETTEXT writes at most size - 1 bytes and a NUL into it.
 // CB_GETLBTEXT, which is told no size, writes as much of the entry as fits, and a NUL where that still fits, and
-// answers the entry's whole length.
+// answers the entry's whole length, whatever length the control has told before.
 struct TextBuffer {
   std::string bytes;
   explicit TextBuffer(std::size_t size) : bytes(size, '\0') {}

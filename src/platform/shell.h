@@ -24,6 +24,9 @@ WNDPROC SetWindowLongA(std::int32_t hWnd, std::int32_t nIndex, WNDPROC dwNewLong
 std::int32_t CallWindowProcA(WNDPROC lpPrevWndFunc, std::int32_t hWnd, std::uint32_t Msg, std::int32_t wParam,
                              std::int32_t lParam);
 
+// The number of the message of this name, without case: the same for all programs, above all fixed numbers.
+std::uint32_t RegisterWindowMessageA(const std::string& lpString);
+
 constexpr std::uint32_t NIM_ADD = 0;
 constexpr std::uint32_t NIM_MODIFY = 1;
 constexpr std::uint32_t NIM_DELETE = 2;
@@ -48,7 +51,13 @@ bool Shell_NotifyIconA(std::uint32_t dwMessage, const NOTIFYICONDATA& lpData);
 // Icon of the program's resources in the size of the notification area; shared, so nobody destroys it. 0 if unknown.
 std::int32_t LoadIconA(const std::string& name);
 
+// Path of the file that the system would start by this name, which may lack its extension (such as ".exe"): where a
+// path stands, that file, else the first in the program's folder, the present one, the system's and those of PATH.
+// Empty when there is none, or only a folder.
+std::string SearchPathA(const std::string& lpFileName, const std::string& lpExtension);
+
 // Starts a command line in a window of the given show style and does not wait. Yields the process id, 0 on failure.
+// An empty command fails.
 std::uint32_t StartProgram(const std::string& command, std::uint32_t showStyle);
 
 // Ends this program at once, wherever it stands.

@@ -1,5 +1,8 @@
 #include "runtime/fault.h"
 
+#include <new>
+#include <stdexcept>
+
 namespace runtime {
 
 std::string FaultDescription(FaultNumber number) {
@@ -48,6 +51,17 @@ std::string FaultDescription(FaultNumber number) {
       return "Objektvariable oder With-Blockvariable nicht festgelegt";
   }
   return "Anwendungs- oder objektdefinierter Fehler";
+}
+
+Fault CaughtFault() {
+  try {
+    throw;
+  } catch (const Fault& fault) {
+    return fault;
+  } catch (const std::bad_alloc&) {
+  } catch (const std::length_error&) {  // longer than any memory
+  }
+  return Fault(FaultNumber::OutOfMemory);
 }
 
 }  // namespace runtime

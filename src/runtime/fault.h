@@ -3,6 +3,7 @@
 // A routine of this program is in one of two modes. In skip mode a faulty statement is passed over and the next
 // one runs (Skip, below). Under the standard handler the fault ends the routine and becomes the run's error text
 // (engine/standard_handler.h). A fault carries the number and the German description that users of such run-times know.
+// Memory that runs out is a fault like any other, wherever one is caught.
 #pragma once
 
 #include <string>
@@ -44,12 +45,17 @@ struct Fault {
   explicit Fault(FaultNumber n) : number(n), description(FaultDescription(n)) {}
 };
 
+// The fault that is being handled, for a `catch (...)`: a Fault, or OutOfMemory for memory that the run-time library
+// could not give. Any other exception goes on its way.
+Fault CaughtFault();
+
 // Skip mode: carries out one statement and passes over its fault. Reports nothing.
 template <class Statement>
 void Skip(Statement&& statement) {
   try {
     std::forward<Statement>(statement)();
-  } catch (const Fault&) {
+  } catch (...) {
+    CaughtFault();
   }
 }
 

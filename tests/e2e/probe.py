@@ -187,6 +187,13 @@ class Probe:
     def send(self, window, message, w_parameter=0, l_parameter=0):
         return int(self.ask("send", window.handle, message, w_parameter, l_parameter)[0][0])
 
+    def broadcast(self, name):
+        """Posts the message of this name to all top-level windows."""
+        self.ask("post", 0xFFFF, self.ask("registermessage", name)[0][0], 0, 0)
+
+    def remove_icon(self, window, identity):
+        self.ask("removeicon", window.handle, identity)
+
     def press(self, window, count):
         self.ask("press", window.handle, count)
 

@@ -2,6 +2,7 @@
 
 import datetime
 import re
+import shutil
 import unittest
 
 from harness import (
@@ -9,14 +10,17 @@ from harness import (
     CODE_PAGE,
     COMPLETED,
     DESTINATION,
+    FOLDER,
     PROGRAM,
     REGISTRY_KEY,
     STARS,
     TITLE,
     WINDOWS_BUILD,
+    WM_NULL,
     EndToEndTest,
     wait_until,
 )
+from probe import WM_CLOSE
 from project import VERSION
 
 STOPPED = "Die Verarbeitung wurde angehalten."
@@ -168,6 +172,32 @@ class ChoiceTest(LogTest):
         self.assertTrue(self.desktop.host_path(path).is_dir())
 
 
+class ProgramStartTest(LogTest):
+    def test_the_longest_beginning_that_is_a_program_is_started(self):
+        (self.folder / "Mein Ordner").mkdir()
+        for name in ("Mein.exe", "Mein Ordner/das Programm.exe"):
+            shutil.copy(WINDOWS_BUILD / "TERU.EXE", self.folder / name)
+        self.start_program()
+        self.lay_macro(
+            f'EXEC="{FOLDER}\\Mein Ordner\\das Programm.exe" --caption Gestartet\n'
+            "WAITFORWINDOW=Gestartet,0,,,0\n"
+            "EXEC=\n"
+        )
+        self.start_teru()
+        self.press()
+        self.status_dialog("Programm kann nicht ausgeführt werden: ")
+        self.assertEqual(len(self.probe.processes("das Programm.exe")), 1)
+        self.assertEqual(self.probe.processes("Mein.exe"), [])
+        self.assert_log(
+            *self.header(),
+            f"Programm wird ausgeführt: {FOLDER}\\Mein Ordner\\das Programm.exe --caption Gestartet",
+            FOUND,
+            "Programm kann nicht ausgeführt werden: ",
+        )
+        self.probe.post(self.probe.window("Gestartet"), WM_CLOSE)
+        wait_until(lambda: not self.probe.processes("das Programm.exe"), "the end of the program that was started")
+
+
 class StatusDialogTest(LogTest):
     def test_cancel_ends_a_wait(self):
         self.start_program()
@@ -279,6 +309,22 @@ class OrderTest(LogTest):
         status = self.end_a_run()
         self.choose_from_menu("Info")
         self.assert_above(self.dialog("&Systeminfo...", title="Info"), status)
+
+
+class ShellTest(LogTest):
+    def test_a_shell_that_starts_anew_gets_the_icon_back(self):
+        process = self.start_program()
+        form = self.main_form(process)
+        wait_until(self.icons, "the icon")
+        self.probe.remove_icon(form, 1)
+        wait_until(lambda: not self.icons(), "the end of the icon")
+        self.probe.broadcast("TaskbarCreated")
+        wait_until(self.icons, "the icon again")
+        self.probe.broadcast("TaskbarCreated")
+        self.probe.send(form, WM_NULL)
+        self.assertEqual(len(self.icons()), 1)
+        self.choose_from_menu("Beenden")
+        wait_until(lambda: not self.probe.processes(PROGRAM), "the end of the program")
 
 
 class MenuTest(LogTest):

@@ -103,6 +103,9 @@ class ProgramFileTest(unittest.TestCase):
         self.assertIn(("kernel32.dll", "CreateFileA"), imported)
         self.assertEqual(imported - listed, set(), "of which system are these?")
 
+    def test_program_uses_all_addresses_of_a_32_bit_program(self):
+        self.assertTrue(self.program.FILE_HEADER.IMAGE_FILE_LARGE_ADDRESS_AWARE)
+
     def test_program_is_hardened(self):
         header = self.program.OPTIONAL_HEADER
         self.assertTrue(header.IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE)

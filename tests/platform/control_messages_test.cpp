@@ -158,6 +158,24 @@ TEST_F(ControlMessages, EntryThatIsNotThereHasNeitherLengthNorText) {
   }
 }
 
+TEST_F(ControlMessages, EntryThatGrowsBehindItsLengthFillsTheBufferAndNoMore) {
+  const auto growing = contract::AddForeignWindow({contract::kGrowingClass, "20000"});
+  EXPECT_EQ(SendMessageA(growing, platform::CB_GETLBTEXTLEN, 0, 0), 5);
+  TextBuffer buffer(5);
+  EXPECT_EQ(SendMessageA(growing, platform::CB_GETLBTEXT, 0, buffer), 20000);
+  EXPECT_EQ(buffer.bytes, "xxxxx");
+}
+
+// What comes of it is open, but nothing beside the buffer is written.
+TEST_F(ControlMessages, EntryThatGrowsBeyondAnyListDoesNoHarm) {
+  const auto growing = contract::AddForeignWindow({contract::kGrowingClass, "3000000"});
+  EXPECT_EQ(SendMessageA(growing, platform::CB_GETLBTEXTLEN, 0, 0), 5);
+  TextBuffer buffer(5);
+  SendMessageA(growing, platform::CB_GETLBTEXT, 0, buffer);
+  EXPECT_TRUE(buffer.bytes == "xxxxx" || buffer.bytes == std::string(5, '\0')) << buffer.bytes;
+  EXPECT_EQ(SendMessageA(growing, platform::CB_GETLBTEXTLEN, 0, 0), 3000000);
+}
+
 TEST_F(ControlMessages, FindStringBeginsBehindTheStartAndWraps) {
   const auto combo = Combo({"2005", "2005/2006", "2006"});
   EXPECT_EQ(Find(combo, 0, "2005"), 1);

@@ -38,6 +38,19 @@ TEST_F(Files, FileIsReadInPiecesUntilItsEnd) {
   platform::CloseFile(file);
 }
 
+TEST_F(Files, ReadingGoesOnAtAByteOfTheFile) {
+  contract::WriteWhole(Path("a.txt"), "Zeile 1\r\nZeile 2");
+  const auto file = platform::OpenFile(Path("a.txt"), FileMode::Read);
+  platform::SetFilePointer(file, 9);
+  EXPECT_EQ(ReadAll(file), "Zeile 2");
+  platform::SetFilePointer(file, 15);
+  EXPECT_EQ(ReadAll(file), "2");
+  platform::SetFilePointer(file, 0x100000000);  // behind the end
+  EXPECT_EQ(ReadAll(file), "");
+  platform::CloseFile(file);
+  EXPECT_EQ(FaultOf([&] { platform::SetFilePointer(file, 0); }), FaultNumber::BadFileNumber);
+}
+
 TEST_F(Files, CreateNewMakesTheFile) {
   const auto file = platform::OpenFile(Path("neu.txt"), FileMode::CreateNew);
   platform::WriteFile(file, "äöü\n");

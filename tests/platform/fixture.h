@@ -35,6 +35,10 @@ constexpr std::uint32_t kSingleSelection = 4;
 constexpr char kPlainClass[] = "ContractWindow";
 constexpr std::uint8_t kSlowKey = 113;  // F2
 
+// A window whose entries grow between two messages: it tells a length of 5 when it is asked first, and from then on the
+// number of characters, all "x", that its text names. Only for windows of another process.
+constexpr char kGrowingClass[] = "ContractGrowing";
+
 class Test : public testing::Test {
  protected:
   void SetUp() override;

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 #include "fixture.h"
 #include "platform/messages.h"
@@ -36,6 +37,14 @@ std::int32_t AddForeignWindow(const WindowPlan& plan) {
                                                     .enabled = plan.enabled,
                                                     .rectangle = {plan.left, plan.top, right, bottom},
                                                     .style = plan.style});
+  if (plan.className == kGrowingClass) {
+    At(hWnd).className = "ComboBox";
+    At(hWnd).entries = {std::string(std::stoul(plan.text), 'x')};
+    At(hWnd).procedure = [told = false](const platform::simulated::Message& message) mutable {
+      const bool first = message.number == platform::CB_GETLBTEXTLEN && !std::exchange(told, true);
+      return first ? std::optional<std::int32_t>(5) : std::nullopt;
+    };
+  }
   if (plan.className != kPlainClass) return hWnd;
   At(hWnd).procedure = [hWnd](const platform::simulated::Message& message) -> std::optional<std::int32_t> {
     if (message.number == platform::WM_KEYDOWN && message.wParam == kSlowKey) At(hWnd).text = "langsam";

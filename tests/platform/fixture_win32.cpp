@@ -1,5 +1,6 @@
 #ifdef _WIN32
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -56,6 +57,33 @@ LRESULT CALLBACK PlainProcedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM l
     ::SetWindowTextA(hWnd, "langsam");
   }
   return ::DefWindowProcA(hWnd, message, wParam, lParam);
+}
+
+LRESULT CALLBACK GrowingProcedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto grown = [hWnd] {
+    wchar_t text[16] = L"";
+    ::GetWindowTextW(hWnd, text, 16);
+    return static_cast<std::size_t>(std::stoul(text));
+  };
+  if (message == CB_GETLBTEXTLEN) {
+    const bool first = ::SetWindowLongA(hWnd, GWL_USERDATA, 1) == 0;
+    return first ? 5 : static_cast<LRESULT>(grown());
+  }
+  if (message == CB_GETLBTEXT) {
+    const std::wstring entry(grown(), L'x');
+    std::copy_n(entry.c_str(), entry.size() + 1, reinterpret_cast<wchar_t*>(lParam));
+    return static_cast<LRESULT>(entry.size());
+  }
+  return ::DefWindowProcW(hWnd, message, wParam, lParam);
+}
+
+// Of two-byte text, so that the system hands an entry over as it is.
+void RegisterGrowingClass() {
+  WNDCLASSW windowClass = {};
+  windowClass.lpfnWndProc = GrowingProcedure;
+  windowClass.hInstance = ::GetModuleHandleA(nullptr);
+  windowClass.lpszClassName = L"ContractGrowing";
+  ::RegisterClassW(&windowClass);
 }
 
 void RegisterClassNamed(const char* name, WNDPROC procedure) {
@@ -334,6 +362,7 @@ std::optional<int> RunAsForeignProcess(int argc, char** argv) {
   ::InitCommonControls();
   RegisterClassNamed(kPlainClass, &PlainProcedure);
   RegisterClassNamed(kControllerClass, &ControllerProcedure);
+  RegisterGrowingClass();
   ::CreateWindowExA(0, kControllerClass, argv[2], 0, 0, 0, 0, 0, nullptr, nullptr, ::GetModuleHandleA(nullptr),
                     nullptr);
   while (::MsgWaitForMultipleObjects(1, &starter, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) HandleMessages();

@@ -4,6 +4,7 @@
 #include "platform/files.h"
 #include "platform/shell.h"
 #include "platform/window_state.h"
+#include "runtime/text.h"
 
 namespace {
 
@@ -61,6 +62,45 @@ TEST_F(System, TwipsOfAPixelAtTheUsualResolution) { EXPECT_EQ(platform::TwipsPer
 
 TEST_F(System, MissingProgramDoesNotStart) {
   EXPECT_EQ(platform::StartProgram(contract::MissingProgram(), platform::SW_SHOWNORMAL), 0u);
+}
+
+TEST_F(System, EmptyCommandDoesNotStart) { EXPECT_EQ(platform::StartProgram("", platform::SW_SHOWNORMAL), 0u); }
+
+class SearchPath : public contract::Test {};
+
+TEST_F(SearchPath, FindsAFileWithItsExtensionAndWithout) {
+  contract::WriteWhole(contract::Path("mein tool.exe"), "");
+  const auto found = platform::SearchPathA(contract::Path("mein tool.exe"), ".exe");
+  EXPECT_TRUE(runtime::EqualIgnoringCase(found, contract::Path("mein tool.exe"))) << found;
+  EXPECT_TRUE(runtime::EqualIgnoringCase(platform::SearchPathA(contract::Path("mein tool"), ".exe"), found));
+  EXPECT_EQ(platform::SearchPathA(contract::Path("mein"), ".exe"), "");
+  EXPECT_EQ(platform::SearchPathA(contract::Path("mein tool.com"), ".exe"), "");
+}
+
+TEST_F(SearchPath, FindsNoFolder) {
+  platform::CreateDirectoryA(contract::Path("ordner"));
+  EXPECT_EQ(platform::SearchPathA(contract::Path("ordner"), ".exe"), "");
+  EXPECT_EQ(platform::SearchPathA("", ".exe"), "");
+}
+
+TEST_F(SearchPath, FindsABareNameInTheFoldersOfPath) {
+  contract::WriteWhole(contract::Path("contract tool.exe"), "");
+  EXPECT_EQ(platform::SearchPathA("contract tool", ".exe"), "");
+  const std::string path = platform::GetEnvironmentVariableA("PATH");
+  contract::SetVariable("PATH", path + ";" + contract::ScratchFolder());
+  const auto found = platform::SearchPathA("contract tool", ".exe");
+  contract::SetVariable("PATH", path);
+  EXPECT_TRUE(runtime::EqualIgnoringCase(found, contract::Path("contract tool.exe"))) << found;
+}
+
+class RegisteredMessage : public contract::Test {};
+
+TEST_F(RegisteredMessage, HasOneNumberForItsNameInAnyCase) {
+  const auto number = platform::RegisterWindowMessageA("TaskbarCreated");
+  EXPECT_GE(number, 0xC000u);
+  EXPECT_LE(number, 0xFFFFu);
+  EXPECT_EQ(platform::RegisterWindowMessageA("TASKBARCREATED"), number);
+  EXPECT_NE(platform::RegisterWindowMessageA("ContractMessage"), number);
 }
 
 class HotKey : public contract::Test {

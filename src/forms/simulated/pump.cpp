@@ -7,6 +7,7 @@
 #include "forms/simulated/user.h"
 #include "platform/simulated/desktop.h"
 #include "platform/simulated/modal.h"
+#include "runtime/fault.h"
 
 namespace forms::realization {
 
@@ -74,9 +75,13 @@ void PumpOnce() {
 
 // When nothing is scheduled any more, nothing can happen any more.
 void RunMessageLoop() {
-  do {
-    PumpOnce();
-  } while (!state.loaded.empty() && platform::simulated::RunNextEvent());
+  bool more = true;
+  while (more) {
+    runtime::Skip([&] {  // nobody is left to take the fault of a handler
+      PumpOnce();
+      more = !state.loaded.empty() && platform::simulated::RunNextEvent();
+    });
+  }
 }
 
 }  // namespace forms::realization

@@ -12,6 +12,7 @@
 #include "forms/win32/list_window.h"
 #include "forms/win32/message_loop.h"
 #include "platform/system.h"
+#include "runtime/fault.h"
 
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
@@ -205,7 +206,7 @@ void OnMouseMove(HWND window, LPARAM position) {
   Raise([form, x] { form->Form_MouseMove(x); });
 }
 
-LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT AnswerMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   const FormWindow* entry = Find(window);
   // While it is being made or destroyed the window raises no events.
   if (entry == nullptr) return ::DefDlgProcA(window, message, wParam, lParam);
@@ -239,6 +240,12 @@ LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
     default:
       return ::DefDlgProcA(window, message, wParam, lParam);
   }
+}
+
+LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT answer = 0;
+  Raise([&] { answer = AnswerMessage(window, message, wParam, lParam); });
+  return answer;
 }
 
 void RegisterFormClass() {
@@ -315,12 +322,18 @@ namespace forms::realization {
 using namespace win32;
 
 std::int32_t Create(Form& form) {
-  const std::vector<Control*> controls = ControlsOf(form.Layout());
-  const HWND window = MakeWindow(form, controls.empty());
-  CreateControls(platform::NumberOf(window), controls);
+  auto entry = std::make_unique<FormWindow>(FormWindow{&form, nullptr, ControlsOf(form.Layout()), {}});
+  const HWND window = entry->window = MakeWindow(form, IsNeverShown(*entry));
+  if (window == nullptr) throw runtime::Fault(runtime::FaultNumber::OutOfMemory);
+  try {
+    CreateControls(platform::NumberOf(window), entry->controls);
+    formWindows.push_back(std::move(entry));
+  } catch (...) {
+    ::DestroyWindow(window);
+    throw;
+  }
   const bool hasDefault = ::GetDlgItem(window, IDOK) != nullptr;
   if (hasDefault) ::SendMessageA(window, DM_SETDEFID, IDOK, 0);
-  formWindows.push_back(std::make_unique<FormWindow>(FormWindow{&form, window, controls, {}}));
   return platform::NumberOf(window);
 }
 

@@ -8,6 +8,7 @@
 #include "forms/realization.h"
 #include "forms/win32/form_window.h"
 #include "platform/win32/substitutes.h"
+#include "runtime/fault.h"
 
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
@@ -40,7 +41,7 @@ class ModalSession {
 std::vector<ModalSession*> sessions;
 
 BOOL CALLBACK Collect(HWND window, LPARAM list) {
-  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  Raise([&] { reinterpret_cast<std::vector<HWND>*>(list)->push_back(window); });
   return TRUE;
 }
 
@@ -85,12 +86,8 @@ void Dispatch(MSG& message) {
 
 }  // namespace
 
-void Raise(const std::function<void()>& handler) {
-  try {
-    handler();
-  } catch (...) {
-    if (!raised) raised = std::current_exception();
-  }
+void KeepRaised() {
+  if (!raised) raised = std::current_exception();
 }
 
 void RethrowRaised() {
@@ -140,7 +137,8 @@ void PumpOnce() {
 
 void RunMessageLoop() {
   MSG message;
-  while (AnyForm() && ::GetMessageA(&message, nullptr, 0, 0) > 0) Dispatch(message);
+  // Nobody is left to take the fault of a handler; the program stays.
+  while (AnyForm() && ::GetMessageA(&message, nullptr, 0, 0) > 0) runtime::Skip([&] { Dispatch(message); });
 }
 
 }  // namespace forms::realization

@@ -2,13 +2,23 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
+#include <utility>
 
 namespace forms::win32 {
 
+// Keeps the exception that is being handled, unless one waits already.
+void KeepRaised();
+
 // Runs a handler inside a window procedure. No exception can pass through the system's own frames, so one that leaves
 // the handler waits here until the program handles messages again (RethrowRaised).
-void Raise(const std::function<void()>& handler);
+template <class Handler>
+void Raise(Handler&& handler) {
+  try {
+    std::forward<Handler>(handler)();
+  } catch (...) {
+    KeepRaised();
+  }
+}
 
 // Throws what a handler has left since the last call.
 void RethrowRaised();

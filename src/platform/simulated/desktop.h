@@ -163,6 +163,8 @@ struct TrayCall {
   TrayIcon icon;
 };
 const std::vector<TrayCall>& TrayCalls();
+// The shell ends and starts anew: the icon is gone, and all top-level windows are told so.
+void RestartShell();
 // The mouse does this at the icon (message number such as WM_RBUTTONUP): the callback message is posted.
 void MouseAtTray(std::uint32_t message);
 

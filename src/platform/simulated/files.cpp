@@ -115,6 +115,11 @@ std::int32_t OpenFile(const std::string& path, FileMode mode) {
   return handle;
 }
 
+void SetFilePointer(std::int32_t hFile, std::int64_t position) {
+  RaiseIfFailing("SetFilePointer");
+  if (::lseek(OpenedFile(hFile).Descriptor(), position, SEEK_SET) < 0) throw Fault(FaultOfLastError());
+}
+
 std::size_t ReadFile(std::int32_t hFile, char* buffer, std::size_t size) {
   RaiseIfFailing("ReadFile");
   const auto count = ::read(OpenedFile(hFile).Descriptor(), buffer, size);

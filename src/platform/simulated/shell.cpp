@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/files.h"
 #include "platform/messages.h"
 #include "platform/simulated/state.h"
+#include "platform/system.h"
 #include "runtime/text.h"
 
 namespace platform {
@@ -64,6 +66,12 @@ void OccupyHotKey(std::uint32_t modifiers, std::uint32_t key) {
 const std::optional<TrayIcon>& Tray() { return TheDesktop().tray; }
 const std::vector<TrayCall>& TrayCalls() { return TheDesktop().trayCalls; }
 
+void RestartShell() {
+  TheDesktop().tray.reset();
+  const auto created = static_cast<std::uint32_t>(RegisterWindowMessageA("TaskbarCreated"));
+  for (const std::int32_t hWnd : TheDesktop().topLevel) PostMessageA(hWnd, created, 0, 0);
+}
+
 void MouseAtTray(std::uint32_t message) {
   const auto& tray = Tray();
   if (!tray || (tray->record.uFlags & NIF_MESSAGE) == 0) return;
@@ -119,9 +127,30 @@ std::int32_t LoadIconA(const std::string& name) {
   return found == kIcons.end() ? 0 : kFirstIcon + static_cast<std::int32_t>(found - kIcons.begin());
 }
 
+std::uint32_t RegisterWindowMessageA(const std::string& lpString) {
+  constexpr std::uint32_t kFirst = 0xC000;
+  auto& names = TheDesktop().messageNames;
+  const auto name = std::ranges::find(names, runtime::ToUpper(lpString));
+  const auto number = kFirst + static_cast<std::uint32_t>(name - names.begin());
+  if (name == names.end()) names.push_back(runtime::ToUpper(lpString));
+  return number;
+}
+
+std::string SearchPathA(const std::string& lpFileName, const std::string& lpExtension) {
+  const std::string lastName = lpFileName.substr(lpFileName.find_last_of("\\/:") + 1);
+  const std::string name = lpFileName + (runtime::Contains(lastName, ".") ? "" : lpExtension);
+  if (lastName.empty()) return "";
+  if (lastName.size() < lpFileName.size()) return FileExists(name) ? name : "";
+  std::vector<std::string> folders = {ApplicationPath(), CurrentDirectory()};
+  for (const std::string& folder : runtime::Split(GetEnvironmentVariableA("PATH"), ';')) folders.push_back(folder);
+  for (const std::string& folder : folders)
+    if (!folder.empty() && FileExists(folder + "\\" + name)) return folder + "\\" + name;
+  return "";
+}
+
 std::uint32_t StartProgram(const std::string& command, std::uint32_t showStyle) {
   Desktop& desktop = TheDesktop();
-  if (Fails("StartProgram") || std::ranges::count(desktop.missingPrograms, command) != 0) return 0;
+  if (command.empty() || Fails("StartProgram") || std::ranges::count(desktop.missingPrograms, command) != 0) return 0;
   desktop.startedPrograms.push_back({command, showStyle});
   return desktop.nextProcess++;
 }

@@ -141,6 +141,7 @@ struct Desktop {
   std::set<std::uint8_t> keysOn;  // such as Caps Lock
   std::deque<KeyInput> keys;      // on their way to whatever has the focus when they arrive
   std::vector<HotKey> hotKeys;
+  std::vector<std::string> messageNames;  // registered, in upper case
   std::optional<TrayIcon> tray;
   std::vector<TrayCall> trayCalls;
   std::vector<StartedProgram> startedPrograms;

@@ -105,6 +105,12 @@ std::size_t ReadFile(std::int32_t hFile, char* buffer, std::size_t size) {
   return count;
 }
 
+void SetFilePointer(std::int32_t hFile, std::int64_t position) {
+  LONG high = static_cast<LONG>(position >> 32);
+  const DWORD low = ::SetFilePointer(HandleOf<HANDLE>(hFile), static_cast<LONG>(position), &high, FILE_BEGIN);
+  if (low == INVALID_SET_FILE_POINTER && ::GetLastError() != NO_ERROR) RaiseLastError();
+}
+
 void WriteFile(std::int32_t hFile, std::string_view bytes) {
   DWORD count = 0;
   if (!::WriteFile(HandleOf<HANDLE>(hFile), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr))

@@ -1,8 +1,10 @@
 #include "platform/messages.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "runtime/code_page.h"
+#include "runtime/fault.h"
 
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
@@ -10,30 +12,53 @@
 namespace platform {
 namespace {
 
-// The message names no size, so the entry gets a buffer of its own, with room for one that has grown meanwhile.
-constexpr std::size_t kRoomToGrow = 4096;
+// Where an entry is put. The message names no size, and the length that the control tells can be wrong, or right no
+// longer. So there is room for the longest entry, and behind it a place that cannot be written: the system then ends
+// the copy of a longer one.
+class EntryRoom {
+ public:
+  EntryRoom() : start_(::VirtualAlloc(nullptr, kSize + kGuard, MEM_RESERVE, PAGE_NOACCESS)) {
+    if (start_ == nullptr || ::VirtualAlloc(start_, kSize, MEM_COMMIT, PAGE_READWRITE) == nullptr) {
+      Release();
+      throw runtime::Fault(runtime::FaultNumber::OutOfMemory);
+    }
+  }
+  ~EntryRoom() { Release(); }
+  EntryRoom(const EntryRoom&) = delete;
+  EntryRoom& operator=(const EntryRoom&) = delete;
+
+  std::int32_t Address() const { return NumberOf(start_); }
+
+  // What stands there in front of a NUL.
+  template <class Character>
+  std::basic_string_view<Character> Text() const {
+    const std::basic_string_view<Character> all(static_cast<const Character*>(start_), kLongestEntry);
+    return all.substr(0, all.find(Character{}));
+  }
+
+ private:
+  static constexpr SIZE_T kSize = (kLongestEntry + 1) * sizeof(wchar_t);
+  static constexpr SIZE_T kGuard = 1 << 16;
+
+  void Release() { ::VirtualFree(start_, 0, MEM_RELEASE); }
+
+  void* start_;
+};
 
 // The entry in two-byte text: asked for 8-bit text, a combo box of another process gives two-byte text all the same.
-std::int32_t ReadEntryW(std::int32_t hWnd, std::int32_t index, std::size_t length, std::string& entry) {
-  std::u16string buffer(length + kRoomToGrow, u'\0');
-  const auto answer = static_cast<std::int32_t>(
-      ::SendMessageW(HandleOf<HWND>(hWnd), CB_GETLBTEXT, static_cast<WPARAM>(index), NumberOf(buffer.data())));
-  entry = runtime::FromUtf16(buffer);
-  return answer;
-}
-
 // The 9x family knows 8-bit text alone.
-std::int32_t ReadEntryA(std::int32_t hWnd, std::int32_t index, std::size_t length, std::string& entry) {
-  entry.assign(length + kRoomToGrow, '\0');
-  return SendMessageA(hWnd, CB_GETLBTEXT, index, NumberOf(entry.data()));
-}
-
 std::int32_t ReadEntry(std::int32_t hWnd, std::int32_t index, TextBuffer& target) {
-  const std::int32_t length = SendMessageA(hWnd, CB_GETLBTEXTLEN, index, 0);
-  if (length < 0) return length;
+  const EntryRoom room;
+  std::int32_t answer = 0;
   std::string entry;
-  const auto read = IsFamily9x() ? ReadEntryA : ReadEntryW;
-  const std::int32_t answer = read(hWnd, index, static_cast<std::size_t>(length), entry);
+  if (IsFamily9x()) {
+    answer = SendMessageA(hWnd, CB_GETLBTEXT, index, room.Address());
+    entry = room.Text<char>();
+  } else {
+    answer = static_cast<std::int32_t>(
+        ::SendMessageW(HandleOf<HWND>(hWnd), CB_GETLBTEXT, static_cast<WPARAM>(index), room.Address()));
+    entry = runtime::FromUtf16(room.Text<char16_t>());
+  }
   if (answer < 0) return answer;
   const std::size_t count = std::min({static_cast<std::size_t>(answer), entry.size(), target.bytes.size()});
   std::copy_n(entry.begin(), count, target.bytes.begin());
@@ -44,6 +69,9 @@ std::int32_t ReadEntry(std::int32_t hWnd, std::int32_t index, TextBuffer& target
 }  // namespace
 
 std::int32_t SendMessageA(std::int32_t hWnd, std::uint32_t Msg, std::int32_t wParam, std::int32_t lParam) {
+  // Asked for the length of 8-bit text, some versions of the system fetch the entry into room of the length told first.
+  if (Msg == CB_GETLBTEXTLEN && !IsFamily9x())
+    return static_cast<std::int32_t>(::SendMessageW(HandleOf<HWND>(hWnd), Msg, static_cast<WPARAM>(wParam), lParam));
   return static_cast<std::int32_t>(::SendMessageA(HandleOf<HWND>(hWnd), Msg, static_cast<WPARAM>(wParam), lParam));
 }
 

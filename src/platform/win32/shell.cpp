@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <iterator>
 
+#include "platform/files.h"
+
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
 
@@ -47,7 +49,17 @@ std::int32_t LoadIconA(const std::string& name) {
                                ::GetSystemMetrics(SM_CYSMICON), LR_SHARED));
 }
 
+std::uint32_t RegisterWindowMessageA(const std::string& lpString) { return ::RegisterWindowMessageA(lpString.c_str()); }
+
+std::string SearchPathA(const std::string& lpFileName, const std::string& lpExtension) {
+  std::string path(MAX_PATH, '\0');
+  const DWORD length = ::SearchPathA(nullptr, lpFileName.c_str(), lpExtension.c_str(), MAX_PATH, path.data(), nullptr);
+  path.resize(length < MAX_PATH ? length : 0);
+  return FileExists(path) ? path : "";
+}
+
 std::uint32_t StartProgram(const std::string& command, std::uint32_t showStyle) {
+  if (command.empty()) return 0;  // some systems would start the present folder
   STARTUPINFOA start = {};
   start.cb = sizeof start;
   start.dwFlags = STARTF_USESHOWWINDOW;

@@ -18,7 +18,7 @@ template <class Query>
 std::int32_t Fill(std::string& text, std::int32_t size, Query query) {
   text.assign(static_cast<std::size_t>(std::max(size, 1)), '\0');
   const int length = query(text.data(), static_cast<int>(text.size()));
-  text.resize(static_cast<std::size_t>(length));
+  text.resize(static_cast<std::size_t>(std::clamp(length, 0, static_cast<int>(text.size()))));
   return length;
 }
 

@@ -16,6 +16,8 @@
 //   post WINDOW MESSAGE W L        1 when posted
 //   send WINDOW MESSAGE W L        answer; fails when there is none within 30 seconds
 //   press WINDOW COUNT             sends WM_HOTKEY so often, each time waiting for its end
+//   registermessage NAME           number of the message of this name
+//   removeicon WINDOW ID           takes the icon of a window out of the notification area, as a shell that ends does
 //   counts PROCESS                 kernel handles, windows, GDI objects, processor time in milliseconds
 //   setregistry KEY NAME TEXT      writes a text below HKEY_LOCAL_MACHINE
 //   getregistry KEY NAME           text
@@ -25,6 +27,7 @@
 //   letgofile HANDLE               closes it
 #include <windows.h>
 
+#include <shellapi.h>
 #include <tlhelp32.h>
 #include <winternl.h>
 
@@ -346,6 +349,14 @@ void HoldFile(const Fields& fields) {
 
 void LetGoFile(const Fields& fields) { CloseHandle(reinterpret_cast<HANDLE>(ToNumber(fields[1]))); }
 
+void RemoveIcon(const Fields& fields) {
+  NOTIFYICONDATAA icon{};
+  icon.cbSize = sizeof icon;
+  icon.hWnd = Window(fields[1]);
+  icon.uID = static_cast<UINT>(ToNumber(fields[2]));
+  if (!Shell_NotifyIconA(NIM_DELETE, &icon)) throw Failure{"no icon " + fields[2]};
+}
+
 struct Command {
   std::size_t arguments;
   std::function<void(const Fields&)> run;
@@ -387,6 +398,9 @@ const std::map<std::string, Command>& Commands() {
         [](const Fields& f) {
           for (LONG_PTR i = ToNumber(f[2]); i > 0; --i) Send(Window(f[1]), WM_HOTKEY, 1, MAKELPARAM(MOD_ALT, VK_F12));
         }}},
+      {"registermessage",
+       {1, [](const Fields& f) { Answer({Number(static_cast<long long>(RegisterWindowMessageA(f[1].c_str())))}); }}},
+      {"removeicon", {2, RemoveIcon}},
       {"counts", {1, Counts}},
       {"setregistry", {3, SetRegistry}},
       {"getregistry", {2, GetRegistry}},

@@ -456,6 +456,36 @@ TEST_F(ReadComboTest, ALengthThatNoBufferCanHaveEndsInTheStandardHandler) {
   ExpectFailure("Fehler in Funktion ReadCombo:Nicht genügend Speicher");
 }
 
+TEST_F(ReadComboTest, ACountThatNoListCanHaveEndsInTheStandardHandler) {
+  const std::int32_t combo = Combo(7, {"a"});
+  Answer(combo, platform::CB_GETCOUNT, 0x7FFFFFFF);
+  EXPECT_FALSE(Read());
+  ExpectFailure("Fehler in Funktion ReadCombo:Nicht genügend Speicher");
+  EXPECT_EQ(ReceivedNumbers(combo), Numbers{platform::CB_GETCOUNT});
+}
+
+TEST_F(ReadComboTest, AListThatShrinksEndsInTheStandardHandler) {
+  const std::int32_t combo = Combo(7, {"a", "b", "c"});
+  When(combo, platform::CB_GETLBTEXTLEN, [combo](const Message& message) {
+    if (message.wParam == 1) At(combo).entries.resize(1);
+    return std::nullopt;
+  });
+  EXPECT_FALSE(Read());
+  ExpectFailure(std::string("Fehler in Funktion ReadCombo:") + kInvalidCall);
+}
+
+TEST_F(ReadComboTest, AnEntryOfMoreCharactersThanWereToldIsCutWhateverIsAnswered) {
+  const std::int32_t combo = Combo(7, {std::string(300000, 'x')});
+  Answer(combo, platform::CB_GETLBTEXTLEN, 5);
+  EXPECT_TRUE(Read());
+  EXPECT_EQ(automation.ComboItems, "xxxxx;");
+  for (const std::int32_t answer : {0x7FFFFFFF, 6, 5}) {
+    Answer(combo, platform::CB_GETLBTEXT, answer);
+    EXPECT_TRUE(Read()) << answer;
+    EXPECT_EQ(automation.ComboItems.size(), 6u) << answer;
+  }
+}
+
 TEST_F(ReadComboTest, ACountOfMinus1IsNoEntry) {
   Answer(Combo(7, {"a"}), platform::CB_GETCOUNT, -1);
   EXPECT_TRUE(Read());

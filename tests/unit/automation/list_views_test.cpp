@@ -200,6 +200,20 @@ TEST_F(SelectListTest, EmptyListFailsWithoutAText) {
   EXPECT_TRUE(Messages(platform::LVM_SETITEMSTATE).empty());
 }
 
+// A loop over the list would never meet such a count.
+TEST_F(SelectListTest, NegativeCountIsNoRow) {
+  At(list_).procedure = [](const Message& message) {
+    return message.number == platform::LVM_GETITEMCOUNT ? std::optional<std::int32_t>(-3) : std::nullopt;
+  };
+  EXPECT_FALSE(Select());
+  EXPECT_FALSE(Read("4711"));
+  EXPECT_EQ(Cell(1), "");
+  EXPECT_EQ(automation.ListIndex, 0);
+  EXPECT_EQ(automation.ListCount, 0);
+  EXPECT_TRUE(Messages(platform::LVM_GETITEMTEXTW).empty());
+  EXPECT_TRUE(Messages(platform::LVM_SETITEMSTATE).empty());
+}
+
 TEST_F(SelectListTest, WithoutAControlTheWindowIsNamed) {
   EXPECT_FALSE(SelectList("1", "Mandant öffnen", "1", ""));
   EXPECT_EQ(run.LastError, kNotSelected + "0");

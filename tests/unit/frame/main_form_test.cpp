@@ -99,6 +99,87 @@ TEST_F(MainFormTest, AFailedRunLeavesTheIconOfTheFailure) {
   EXPECT_EQ(ShownIcon(), kFailed);
 }
 
+TEST_F(MainFormTest, AShellThatStartsAnewGetsTheIconOfTheMoment) {
+  frmMain.SwitchTray(2);
+  RestartShell();
+  EXPECT_EQ(ShownIcon(), "");
+  forms::Pump();
+  EXPECT_EQ(ShownIcon(), "ICOERR");
+  EXPECT_STREQ(Tray()->record.szTip, "TARVEN Datenexport");
+}
+
+TEST_F(MainFormTest, AShellThatStartsAnewDuringARunGetsTheIconBack) {
+  MacroEntry(1, "TeRu,A.MAK");
+  Macro("A.MAK", {"WAIT=10", "DISPLAYSTATUS=x", "WAIT=10"});
+  std::string during;
+  Schedule(5, [] { RestartShell(); });
+  Schedule(15, [&] { during = ShownIcon(); });
+  TargetWindow("TeRu");
+  PressHotKey();
+  EXPECT_EQ(during, kRunning);
+  EXPECT_EQ(ShownIcon(), kIdle);
+}
+
+TEST_F(MainFormTest, TheMessageOfAShellThatHasTheIconChangesNothing) {
+  platform::PostMessageA(frmMain.Window(), platform::RegisterWindowMessageA("TaskbarCreated"), 0, 0);
+  forms::Pump();
+  EXPECT_EQ(ShownIcon(), kIdle);
+}
+
+TEST_F(MainFormTest, AnIconThatIsThereIsLeftAloneByOtherMessages) {
+  const std::size_t calls = TrayCalls().size();
+  platform::PostMessageA(frmMain.Window(), platform::RegisterWindowMessageA("TaskbarDestroyed"), 0, 0);
+  forms::Pump();
+  EXPECT_EQ(TrayCalls().size(), calls);
+}
+
+class LateShellTest : public SystemTest {
+ protected:
+  LateShellTest() {
+    Fail("Shell_NotifyIconA");
+    StartProgram();
+    EXPECT_EQ(ShownIcon(), "");
+  }
+};
+
+TEST_F(LateShellTest, TheIconIsAddedWhenTheShellTellsOfItself) {
+  Fail("Shell_NotifyIconA", 0);
+  RestartShell();
+  forms::Pump();
+  EXPECT_EQ(ShownIcon(), kIdle);
+  WhenMenu("Beenden");
+  MouseAtTray(platform::WM_RBUTTONUP);
+  EXPECT_THROW(forms::Pump(), ProgramEnded);
+  EXPECT_EQ(ShownIcon(), "");
+}
+
+// A shell that was only busy does not tell of itself again.
+TEST_F(LateShellTest, TheIconIsAddedWithTheNextMessage) {
+  constexpr std::uint32_t kSettingChange = 26;
+  platform::PostMessageA(frmMain.Window(), kSettingChange, 0, 0);
+  forms::Pump();
+  EXPECT_EQ(ShownIcon(), "");
+  Fail("Shell_NotifyIconA", 0);
+  platform::PostMessageA(frmMain.Window(), kSettingChange, 0, 0);
+  forms::Pump();
+  EXPECT_EQ(ShownIcon(), kIdle);
+}
+
+TEST_F(LateShellTest, ARunAddsTheIconOfItsState) {
+  Fail("Shell_NotifyIconA", 0);
+  MacroEntry(1, "TeRu,A.MAK");
+  Macro("A.MAK", {"RAISEERROR=x"});
+  TargetWindow("TeRu");
+  PressHotKey();
+  EXPECT_EQ(ShownIcon(), kFailed);
+}
+
+TEST_F(LateShellTest, NoIconComesUpWhileTheProgramEnds) {
+  Fail("Shell_NotifyIconA", 0);
+  EXPECT_THROW(frmMain.mnuExit_Click(), ProgramEnded);
+  EXPECT_EQ(ShownIcon(), "");
+}
+
 // The menu.
 
 TEST_F(MainFormTest, TheMenuHoldsItsEntriesInOrder) {
