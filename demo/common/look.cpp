@@ -6,6 +6,8 @@ namespace standin {
 
 namespace {
 
+WNDPROC textBoxProcedure = nullptr;  // of the class of all text boxes
+
 constexpr char kFormClass[] = "ThunderRT6FormDC";
 
 WNDPROC editProcedure = nullptr;
@@ -175,6 +177,15 @@ HWND AddControl(HWND parent, const char* windowClass, const char* text, DWORD st
                                  reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
   SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(DialogFont()), TRUE);
   return control;
+}
+
+void SubclassTextBox(HWND box, WNDPROC procedure) {
+  textBoxProcedure = reinterpret_cast<WNDPROC>(
+      SetWindowLongA(box, GWL_WNDPROC, static_cast<LONG>(reinterpret_cast<LONG_PTR>(procedure))));
+}
+
+LRESULT TextBoxProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
+  return CallWindowProcA(textBoxProcedure, box, message, wParam, lParam);
 }
 
 std::string TextOf(HWND window) {

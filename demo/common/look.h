@@ -39,6 +39,11 @@ HFONT DialogFont();
 HWND AddControl(HWND parent, const char* windowClass, const char* text, DWORD style, int id, int x, int y, int width,
                 int height);
 
+// Gives a text box a procedure of its own, which hands on what it leaves to TextBoxProcedure. By the 8-bit function: a
+// box that common controls subclass gets wide characters on some versions of the system.
+void SubclassTextBox(HWND box, WNDPROC procedure);
+LRESULT TextBoxProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam);
+
 std::string TextOf(HWND window);
 
 // The control's id behind those of the containers that it stands in, joined by slashes: how the journal names it.

@@ -1,7 +1,5 @@
 #include "client_fields.h"
 
-#include <commctrl.h>
-
 #include <cctype>
 
 #include "books.h"
@@ -21,16 +19,16 @@ struct Button {
   DWORD style;
 };
 
-LRESULT CALLBACK LockedProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+LRESULT CALLBACK LockedProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_SETTEXT) {
     Journal("Text " + IdPath(box) + " abgelehnt: " + reinterpret_cast<const char*>(lParam));
     return FALSE;
   }
-  return DefSubclassProc(box, message, wParam, lParam);
+  return TextBoxProcedure(box, message, wParam, lParam);
 }
 
-LRESULT CALLBACK CountingProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
-  LRESULT answer = DefSubclassProc(box, message, wParam, lParam);
+LRESULT CALLBACK CountingProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT answer = TextBoxProcedure(box, message, wParam, lParam);
   return message == WM_SETTEXT ? GetWindowTextLengthA(box) : answer;
 }
 
@@ -45,10 +43,10 @@ std::string InGroups(const std::string& text) {
   return digits;
 }
 
-LRESULT CALLBACK GroupingProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
-  if (message != WM_SETTEXT) return DefSubclassProc(box, message, wParam, lParam);
+LRESULT CALLBACK GroupingProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != WM_SETTEXT) return TextBoxProcedure(box, message, wParam, lParam);
   std::string grouped = InGroups(reinterpret_cast<const char*>(lParam));
-  DefSubclassProc(box, message, wParam, reinterpret_cast<LPARAM>(grouped.c_str()));
+  TextBoxProcedure(box, message, wParam, reinterpret_cast<LPARAM>(grouped.c_str()));
   return FALSE;
 }
 
@@ -74,10 +72,9 @@ void AddAddressFrame(HWND form, int x, int y) {
   AddLabelled(frame, "&Name:", OurFirm().name, kIdName, 20);
   AddLabelled(frame, "&Straße:", "Hobelgasse 7", kIdStreet, 46);
   AddLabelled(frame, "&Ort:", "80469 München", kIdPlace, 72);
-  SetWindowSubclass(AddLabelled(frame, "S&teuernummer:", "143/284/70216", kIdTaxNumber, 98), GroupingProcedure, 0, 0);
-  SetWindowSubclass(AddLabelled(frame, "Be&merkung:", "", kIdNote, 124), CountingProcedure, 0, 0);
-  SetWindowSubclass(AddLabelled(frame, "Mandant:", OurFirm().number, kIdNumber, 150, ES_READONLY), LockedProcedure, 0,
-                    0);
+  SubclassTextBox(AddLabelled(frame, "S&teuernummer:", "143/284/70216", kIdTaxNumber, 98), GroupingProcedure);
+  SubclassTextBox(AddLabelled(frame, "Be&merkung:", "", kIdNote, 124), CountingProcedure);
+  SubclassTextBox(AddLabelled(frame, "Mandant:", OurFirm().number, kIdNumber, 150, ES_READONLY), LockedProcedure);
   AddControl(frame, kCheckBoxClass, "Post geht an den &Berater", BS_AUTOCHECKBOX | WS_TABSTOP, kIdMailToConsultant, 116,
              178, 252, 20);
 }

@@ -36,7 +36,7 @@ std::string Modifiers() {
 bool IsModifier(WPARAM key) { return key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU; }
 
 // The field for the search: what it is sent as a text it refuses.
-LRESULT CALLBACK SearchProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+LRESULT CALLBACK SearchProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_GETDLGCODE:
       return DLGC_WANTALLKEYS;
@@ -54,7 +54,7 @@ LRESULT CALLBACK SearchProcedure(HWND field, UINT message, WPARAM wParam, LPARAM
       Journal("Suche: Zeichen " + std::to_string(wParam & 0xFF));
       break;
   }
-  return DefSubclassProc(field, message, wParam, lParam);
+  return TextBoxProcedure(field, message, wParam, lParam);
 }
 
 void NextAccount();
@@ -101,7 +101,7 @@ void AddPaymentControls() {
   AddStatementList(payments, 160);
   AddControl(payments, "Static", "&Suche:", 0, -1, 12, 188, 60, 16);
   HWND search = AddControl(payments, kTextBoxClass, "", ES_AUTOHSCROLL | WS_TABSTOP, kIdSearch, 76, 184, 250, 22);
-  SetWindowSubclass(search, SearchProcedure, 0, 0);
+  SubclassTextBox(search, SearchProcedure);
   AddControl(payments, kButtonClass, "&Nächstes Konto", WS_TABSTOP, kIdNextAccount, 496, 182, 128, 26);
   AddControl(payments, kButtonClass, "S&chließen", WS_TABSTOP, kIdPaymentsClose, 632, 182, 96, 26);
 }

@@ -179,6 +179,8 @@ class Loader {
     else if (word == "row") window.rows.push_back({arguments.Texts(Say(say::kCells)), 0});
     else if (word == "marked") window.selectionMark = arguments.Number(Say(say::kRowNumber), 0);
     else if (word == "by-parameter") window.rowFromParameter = true;
+    else if (word == "key-time") window.keyTime = arguments.Number("milliseconds for a key", 0);
+    else if (word == "message-time") window.messageTime = arguments.Number("milliseconds for a message", 0);
     else if (word == "refuses-text") plan.refusesText = true;
     else if (word == "closes-after" && plan.closesOnCommand)
       plan.closesAfter = arguments.Number(Say(say::kMilliseconds), 0);

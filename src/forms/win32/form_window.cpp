@@ -322,6 +322,7 @@ namespace forms::realization {
 using namespace win32;
 
 std::int32_t Create(Form& form) {
+  WatchForOwnKeys();
   auto entry = std::make_unique<FormWindow>(FormWindow{&form, nullptr, ControlsOf(form.Layout()), {}});
   const HWND window = entry->window = MakeWindow(form, IsNeverShown(*entry));
   if (window == nullptr) throw runtime::Fault(runtime::FaultNumber::OutOfMemory);
