@@ -181,7 +181,7 @@ class ArgumentRules {
         else if (runtime::ToLong(argument.text) > kLargestCommandId) Add(FindingId::IdTooLarge, argument, {argument.text});
         break;
       case ArgumentKind::Exact:
-        if (argument.text != "0" && argument.text != "1") Add(FindingId::DoubtfulWord, argument, {argument.text, "1, 0"});
+        if (const auto exact = Trim(argument.text); exact != "0" && exact != "1") Add(FindingId::DoubtfulWord, argument, {argument.text, "1, 0"});
         break;
       case ArgumentKind::Word:
         CheckWord(argument);

@@ -20,7 +20,7 @@ struct Fix {
 struct Finding {
   FindingId id;
   std::size_t line = 0;  // counted from 0
-  Span span;
+  Span span = {};
   std::vector<std::string> values = {};  // for the message, in the code page
   std::vector<Fix> fixes = {};           // any one of them mends the line
 };

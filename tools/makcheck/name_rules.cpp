@@ -34,6 +34,9 @@ bool IsWordCharacter(char c) {
          ToUpper(std::string_view(&c, 1)) != runtime::ToLower(std::string_view(&c, 1));
 }
 
+// "Einkommensteuer-Export" is one word to a reader.
+bool JoinsWords(char c) { return c == '-' || IsWordCharacter(c); }
+
 bool IsOddName(const std::string& name) {
   return name.empty() || name.find_first_of(" ,=()'\"$") != std::string::npos;
 }
@@ -142,12 +145,12 @@ class NameRules {
     const std::string& text = argument.text;
     const bool prose = Holds(kProse, line.word);
     for (std::size_t start = 0; start < text.size();) {
-      if (!IsWordCharacter(text[start])) {
+      if (!JoinsWords(text[start])) {
         ++start;
         continue;
       }
       std::size_t end = start;
-      while (end < text.size() && IsWordCharacter(text[end])) ++end;
+      while (end < text.size() && JoinsWords(text[end])) ++end;
       const std::string word = text.substr(start, end - start);
       const bool builtIn = start > 0 && text[start - 1] == '$';
       const bool counts = !builtIn && word.size() < text.size() && (!prose || end == text.size());
