@@ -26,20 +26,6 @@ constexpr std::string_view kTextVerbs[] = {"MSG",           "MESSAGEOUT",   "RAI
                                            "DISPLAY",       "ADDPROTOCOL",  "WAITFORDIALOG", "CONFIRMDIALOG",
                                            "SHOWINPUTDLG",  "SHOWINPUTANL", "VALUE",         "IF CONFIRMDIALOG"};
 
-struct Words {
-  std::string_view verb;
-  std::string_view words;  // each with a blank behind it
-  bool fails;              // the line, with any other word
-};
-constexpr Words kWords[] = {
-    {"MOUSECLICK", "LEFT RIGHT ", true},
-    {"MOUSECLICKBYWINDOWOFFSET", "LEFT RIGHT ", false},
-    {"BLOCKINPUT", "TRUE FALSE ", false},
-    {"IF ACTIVEWINDOW", "TRUE FALSE ", false},
-    {"PARSE", "ANL ANLPATH TEXT ", false},
-    {"FORMATSTRING", "DATE LONG TEXT STRING ", false},
-};
-
 // Values that take the name of a client or an area along, and a name may hold a comma.
 constexpr std::string_view kNameValues[] = {"$MANDANTNAME", "$MATRIXBEREICH", "$PATH",        "$GDPDUPATH",
                                             "$FIBUPATH",    "$ANLPATH",       "$MANDANTPATH", "$FIBUMANDANTPATH"};
@@ -204,13 +190,12 @@ class ArgumentRules {
   }
 
   void CheckWord(const Argument& argument) {
-    const auto row = std::find_if(std::begin(kWords), std::end(kWords),
-                                  [&](const Words& words) { return line_->word == words.verb; });
-    if (row == std::end(kWords)) return;
-    if (Contains(" " + std::string(row->words), " " + ToUpper(argument.text) + " ")) return;
-    std::string wanted = Trim(row->words);
-    wanted = runtime::Replace(wanted, " ", ", ");
-    Add(row->fails ? FindingId::WrongWord : FindingId::DoubtfulWord, argument, {argument.text, wanted});
+    const auto words = WordsOf(line_->word);
+    if (Holds(words, ToUpper(argument.text))) return;
+    std::string wanted;
+    for (const std::string& word : words) wanted += (wanted.empty() ? "" : ", ") + word;
+    Add(FailsOnOtherWords(line_->word) ? FindingId::WrongWord : FindingId::DoubtfulWord, argument,
+        {argument.text, wanted});
   }
 
   // The value of a variable of the macro may end in a backslash; those of the program's own paths do not.

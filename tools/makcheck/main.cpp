@@ -6,6 +6,7 @@
 #include "checker.h"
 #include "common/exit_status.h"
 #include "common/tool.h"
+#include "lsp/server.h"
 #include "report.h"
 #include "say.h"
 
@@ -19,6 +20,7 @@ struct Options {
   bool sarif = false;
   bool verbs = false;
   bool findings = false;
+  bool lsp = false;
   std::string explain;
   std::vector<std::string> files;
 };
@@ -61,12 +63,14 @@ int Run(const std::vector<std::string>& arguments) {
   line.Flag("--sarif", options.sarif);
   line.Flag("--verbs", options.verbs);
   line.Flag("--findings", options.findings);
+  line.Flag("--lsp", options.lsp);
   line.Setting("--explain", [&](const std::string& name) { options.explain = tools::ReadSome("--explain", name); });
   options.files = line.Read(arguments);
   if (line.Help()) {
     Print(Say(makcheck::say::kUsage));
     return tools::kFine;
   }
+  if (options.lsp) return makcheck::lsp::Serve();
   if (!options.explain.empty()) return Explain(options.explain);
   if (options.findings) return ListFindings();
   if (options.verbs) {

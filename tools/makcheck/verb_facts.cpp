@@ -112,6 +112,23 @@ constexpr std::pair<std::string_view, std::string_view> kSameVerb[] = {
     {"IF EXE", "EXEC"},    {"IF EXECUTE", "EXEC"},   {"DISPLAY", "DISPLAYSTATUS"},
 };
 
+struct Words {
+  std::string_view verb;
+  std::string_view words;
+  bool fails;  // the line, with any other word
+};
+constexpr Words kWords[] = {
+    {"MOUSECLICK", "LEFT,RIGHT", true},       {"MOUSECLICKBYWINDOWOFFSET", "LEFT,RIGHT", false},
+    {"BLOCKINPUT", "TRUE,FALSE", false},      {"IF ACTIVEWINDOW", "TRUE,FALSE", false},
+    {"PARSE", "ANL,ANLPATH,TEXT", false},     {"FORMATSTRING", "DATE,LONG,TEXT,STRING", false},
+};
+
+const Words* RowOf(std::string_view verb) {
+  for (const Words& words : kWords)
+    if (words.verb == verb) return &words;
+  return nullptr;
+}
+
 const Facts& FactsOf(std::string_view word) {
   static const Facts kNone;
   for (const auto& [other, same] : kSameVerb)
@@ -157,6 +174,16 @@ const std::unordered_map<std::string_view, struct Entry>& Table() {
 }  // namespace
 
 const std::vector<ArgumentFact>& ArgumentsOf(const basMain::Verb& verb) { return Table().at(verb.word).arguments; }
+
+std::vector<std::string> WordsOf(std::string_view verbWord) {
+  const Words* words = RowOf(verbWord);
+  return words == nullptr ? std::vector<std::string>() : runtime::Split(words->words, ',');
+}
+
+bool FailsOnOtherWords(std::string_view verbWord) {
+  const Words* words = RowOf(verbWord);
+  return words != nullptr && words->fails;
+}
 
 const basMain::Verb* FindVerb(std::string_view word) {
   const auto found = Table().find(word);

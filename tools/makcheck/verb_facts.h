@@ -2,6 +2,7 @@
 // The words and names of the arguments are those of the verb table (engine/verbs.h).
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -46,6 +47,17 @@ struct ArgumentFact {
 
 // The arguments of a verb in their order.
 const std::vector<ArgumentFact>& ArgumentsOf(const basMain::Verb& verb);
+
+// The words that an argument of the kind Word knows, in capitals; empty for a verb without such an argument.
+std::vector<std::string> WordsOf(std::string_view verbWord);
+// Whether the line fails on any other word; if not, the verb takes its default.
+bool FailsOnOtherWords(std::string_view verbWord);
+
+// Classes of controls that are seen often.
+inline constexpr const char* kClasses[] = {
+    "Button",           "ComboBox",         "STATIC",           "SysListView32",           "ThunderRT6CheckBox",
+    "ThunderRT6ComboBox", "ThunderRT6CommandButton", "ThunderRT6Frame", "ThunderRT6OptionButton", "ThunderRT6Textbox",
+    "ThunderRT6UserControlDC"};
 
 // The verb of a word in upper case; nullptr for none.
 const basMain::Verb* FindVerb(std::string_view word);
