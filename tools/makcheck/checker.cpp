@@ -26,6 +26,8 @@ void CheckEncoding(const std::string& bytes, std::vector<Finding>& findings) {
   }
 }
 
+}  // namespace
+
 void Sort(std::vector<Finding>& findings) {
   const auto place = [](const Finding& finding) {
     return std::tuple(finding.line, finding.span.start, finding.id);
@@ -34,24 +36,23 @@ void Sort(std::vector<Finding>& findings) {
                    [&](const Finding& a, const Finding& b) { return place(a) < place(b); });
 }
 
-}  // namespace
-
-std::vector<Finding> CheckMacro(const Macro& macro) {
+std::vector<Finding> CheckMacro(const Macro& macro, const Desktop* desktop) {
   std::vector<Finding> findings;
   CheckShapes(macro, findings);
   CheckArguments(macro, findings);
   CheckNames(macro, findings);
   CheckFlow(macro, findings);
+  if (desktop != nullptr) CheckDesktop(macro, *desktop, findings);
   Sort(findings);
   return findings;
 }
 
-std::vector<Finding> CheckFile(const std::string& bytes) {
+std::vector<Finding> CheckFile(const std::string& bytes, const Desktop* desktop) {
   std::vector<Finding> findings;
   CheckEncoding(bytes, findings);
   // Two-byte text has no line that could be looked at.
   if (!findings.empty() && findings.front().id == FindingId::Utf16File) return findings;
-  const std::vector<Finding> further = CheckMacro(Macro(tools::ProgramText(bytes)));
+  const std::vector<Finding> further = CheckMacro(Macro(tools::ProgramText(bytes)), desktop);
   findings.insert(findings.end(), further.begin(), further.end());
   return findings;
 }

@@ -78,6 +78,7 @@ enum class FindingId {
   DeadLine,
   // Against the windows of a desktop file.
   UnknownWindow,
+  UnknownBox,
   UnknownControl,
   UnknownFrame,
   UnknownEntry,

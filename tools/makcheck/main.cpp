@@ -1,14 +1,18 @@
 // makcheck: finds mistakes in macros without running them.
 #include <algorithm>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "checker.h"
+#include "common/code_pages.h"
 #include "common/exit_status.h"
 #include "common/tool.h"
 #include "lsp/server.h"
 #include "report.h"
 #include "say.h"
+#include "settings_rules.h"
 
 namespace {
 
@@ -22,6 +26,8 @@ struct Options {
   bool findings = false;
   bool lsp = false;
   std::string explain;
+  std::string desktop;
+  std::string ini;
   std::vector<std::string> files;
 };
 
@@ -43,11 +49,30 @@ int ListFindings() {
   return tools::kFine;
 }
 
+std::vector<const makcheck::Macro*> Pointers(const std::vector<std::unique_ptr<makcheck::Macro>>& macros) {
+  std::vector<const makcheck::Macro*> pointers;
+  for (const auto& macro : macros) pointers.push_back(macro.get());
+  return pointers;
+}
+
 int Check(const Options& options) {
   if (options.files.empty()) throw tools::UsageError{Say(makcheck::say::kNoFile)};
+  std::optional<makcheck::Desktop> desktop;
+  if (!options.desktop.empty()) desktop.emplace(options.desktop);
+  std::optional<makcheck::Settings> settings;
+  if (!options.ini.empty()) settings.emplace(options.ini);
   std::vector<FileFindings> files;
-  for (const std::string& file : options.files)
-    files.push_back({file, makcheck::CheckFile(tools::ReadFile(file))});
+  std::vector<std::unique_ptr<makcheck::Macro>> macros;
+  for (const std::string& file : options.files) {
+    const std::string bytes = tools::ReadFile(file);
+    files.push_back({file, makcheck::CheckFile(bytes, desktop ? &*desktop : nullptr)});
+    if (!settings) continue;
+    macros.push_back(std::make_unique<makcheck::Macro>(tools::ProgramText(bytes)));
+    if (!settings->StartsWithoutClient(file)) continue;
+    makcheck::CheckClientDialog(*macros.back(), files.back().findings);
+    makcheck::Sort(files.back().findings);
+  }
+  if (settings) files.push_back({options.ini, settings->Check(Pointers(macros))});
   if (options.json) Print(makcheck::JsonReport(files));
   else if (options.sarif) Print(makcheck::SarifReport(files));
   else Print(makcheck::TextReport(files));
@@ -65,6 +90,8 @@ int Run(const std::vector<std::string>& arguments) {
   line.Flag("--findings", options.findings);
   line.Flag("--lsp", options.lsp);
   line.Setting("--explain", [&](const std::string& name) { options.explain = tools::ReadSome("--explain", name); });
+  line.Setting("--desktop", [&](const std::string& path) { options.desktop = tools::ReadSome("--desktop", path); });
+  line.Setting("--ini", [&](const std::string& path) { options.ini = tools::ReadSome("--ini", path); });
   options.files = line.Read(arguments);
   if (line.Help()) {
     Print(Say(makcheck::say::kUsage));

@@ -18,6 +18,9 @@ void CheckArguments(const Macro& macro, Findings& findings);
 void CheckNames(const Macro& macro, Findings& findings);
 // Conditions, loops, jumps, and what should have happened before a line.
 void CheckFlow(const Macro& macro, Findings& findings);
+// What it names of the target, against the windows of a desktop file.
+class Desktop;
+void CheckDesktop(const Macro& macro, const Desktop& desktop, Findings& findings);
 
 // What the rules share.
 

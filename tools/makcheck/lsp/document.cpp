@@ -32,8 +32,9 @@ void Document::Take(std::string text) {
   // A text without a line end behind its last line has no line behind that one.
   if (!text_.empty() && text_.back() != '\n' && text_.back() != '\r') lineStarts_.pop_back();
   macro_ = std::make_unique<makcheck::Macro>(text_);
-  findings_ = CheckMacro(*macro_);
 }
+
+void Document::Check(const Desktop* desktop) { findings_ = CheckMacro(*macro_, desktop); }
 
 void Document::Change(const Range& range, std::string_view text) {
   const std::size_t start = OffsetOf(range.start);

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "desktop.h"
 #include "finding.h"
 #include "macro.h"
 
@@ -45,6 +46,9 @@ class Document {
   // Puts a text in the place of a range; a range beyond the text ends with it.
   void Change(const Range& range, std::string_view text);
   void Take(std::string text);
+
+  // Looks for mistakes anew, also against the windows of a desktop file where there is one.
+  void Check(const Desktop* desktop);
 
   const makcheck::Macro& Macro() const { return *macro_; }
   const std::vector<Finding>& Findings() const { return findings_; }

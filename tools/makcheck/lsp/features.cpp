@@ -1,6 +1,7 @@
 #include "lsp/features.h"
 
 #include <algorithm>
+#include <set>
 #include <string>
 
 #include "common/texts.h"
@@ -88,9 +89,45 @@ void AddVariables(Items& items, const Macro& macro, std::size_t line, const std:
     if (variable.declared < line && !name.empty()) items.Add(name, kVariableItem, name + behind);
 }
 
-void AddArgument(Items& items, const Document& document, const Cursor& cursor) {
+// The text that stands for the first argument of a kind; a variable that is given one text stands for that.
+std::string ArgumentOf(const Document& document, const Line& line, ArgumentKind kind) {
+  const auto& facts = ArgumentsOf(*line.verb);
+  for (std::size_t i = 0; i < facts.size(); ++i) {
+    if (facts[i].kind != kind) continue;
+    const std::string text(line.Text(i + 1));
+    const auto variable = document.Macro().Variables().find(text);
+    if (variable == document.Macro().Variables().end() || variable->second.assignments.size() != 1) return text;
+    return std::string(document.Macro().Lines()[variable->second.assignments[0]].Text(1));
+  }
+  return "";
+}
+
+// In single quotes where a comma would cut it.
+std::string Quoted(const std::string& text) { return text.find(',') == std::string::npos ? text : "'" + text + "'"; }
+
+// What the windows of a desktop file offer for an argument: titles, and the controls of the window that the line names,
+// or of all while it names none.
+void AddDescribed(Items& items, const Document& document, const Line& line, ArgumentKind kind, const Desktop& desktop) {
+  if (kind == ArgumentKind::Window || kind == ArgumentKind::Title) {
+    for (const std::string& title : desktop.Titles()) items.Add(title, kValueItem, Quoted(title));
+    return;
+  }
+  const auto controls = desktop.ControlsOf(ArgumentOf(document, line, ArgumentKind::Window), false);
+  std::set<std::string> offered;
+  for (const ControlView& control : controls) {
+    const bool isId = kind == ArgumentKind::Id || kind == ArgumentKind::CommandId || kind == ArgumentKind::FrameId;
+    const bool isClass = kind == ArgumentKind::Class || kind == ArgumentKind::FrameClass;
+    if (!isId && !isClass && kind != ArgumentKind::Control) return;
+    const std::string text = isId ? std::to_string(control.id) : isClass ? control.cls : control.text;
+    if (text.empty() || !offered.insert(text).second) continue;
+    items.Add(text, kValueItem, Quoted(text))["detail"] = runtime::ToUtf8(Describe(control));
+  }
+}
+
+void AddArgument(Items& items, const Document& document, const Cursor& cursor, const Desktop* desktop) {
   const auto& facts = ArgumentsOf(*cursor.line->verb);
   if (cursor.argument >= facts.size()) return;
+  if (desktop != nullptr) AddDescribed(items, document, *cursor.line, facts[cursor.argument].kind, *desktop);
   switch (facts[cursor.argument].kind) {
     case ArgumentKind::Mark:
       for (const auto& [key, lines] : document.Macro().Marks()) {
@@ -205,7 +242,7 @@ Json Diagnostics(const Document& document) {
   return diagnostics;
 }
 
-Json Completion(const Document& document, Position position) {
+Json Completion(const Document& document, Position position, const Desktop* desktop) {
   const Cursor cursor = document.At(position);
   if (cursor.line == nullptr) {
     Items items(position.line, 0, position.column);
@@ -229,7 +266,7 @@ Json Completion(const Document& document, Position position) {
     return items.Take();
   }
   Items items(position.line, cursor.argumentStart, cursor.column);
-  if (cursor.line->verb != nullptr) AddArgument(items, document, cursor);
+  if (cursor.line->verb != nullptr) AddArgument(items, document, cursor, desktop);
   AddVariables(items, document.Macro(), position.line);
   AddDollarWords(items);
   return items.Take();

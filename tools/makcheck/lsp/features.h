@@ -12,7 +12,8 @@ Range RangeFrom(const Json& json);
 Position PositionFrom(const Json& json);
 
 Json Diagnostics(const Document& document);
-Json Completion(const Document& document, Position position);
+// Windows, ids and classes come from a desktop file where there is one.
+Json Completion(const Document& document, Position position, const Desktop* desktop);
 Json SignatureHelp(const Document& document, Position position);
 Json Hover(const Document& document, Position position);
 Json DocumentSymbols(const Document& document);

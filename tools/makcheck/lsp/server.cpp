@@ -9,6 +9,7 @@
 
 #include "common/texts.h"
 #include "lsp/connection.h"
+#include "lsp/desktop_files.h"
 #include "lsp/features.h"
 #include "lsp/names.h"
 #include "say.h"
@@ -114,9 +115,9 @@ class Server {
 
   void Open(const Json& params) {
     const Json& document = params.at("textDocument");
-    Publish(document.at("uri"), documents_.insert_or_assign(document.at("uri").get<std::string>(),
-                                                            Document(FromEditor(document.at("text").get<std::string>())))
-                                    .first->second);
+    const std::string uri = document.at("uri");
+    Document opened(FromEditor(document.at("text").get<std::string>()));
+    Publish(uri, documents_.insert_or_assign(uri, std::move(opened)).first->second);
   }
 
   void Change(const Json& params) {
@@ -136,7 +137,8 @@ class Server {
     WriteMessage(PublishedDiagnostics(uri, Json::array()));
   }
 
-  static void Publish(const std::string& uri, const Document& document) {
+  void Publish(const std::string& uri, Document& document) {
+    document.Check(desktops_.For(uri));
     WriteMessage(PublishedDiagnostics(uri, Diagnostics(document)));
   }
 
@@ -203,6 +205,7 @@ class Server {
   }
 
   std::map<std::string, Document> documents_;
+  DesktopFiles desktops_;
   bool initialized_ = false;
   bool shutDown_ = false;
   bool ended_ = false;
@@ -214,7 +217,11 @@ class Server {
          shutDown_ = true;
          return Json(nullptr);
        }},
-      {"textDocument/completion", AtPlace(Completion)},
+      {"textDocument/completion",
+       [this](const Json& params) {
+         const Desktop* desktop = desktops_.For(params.at("textDocument").at("uri").get<std::string>());
+         return Completion(DocumentOf(params), PositionFrom(params.at("position")), desktop);
+       }},
       {"textDocument/signatureHelp", AtPlace(SignatureHelp)},
       {"textDocument/hover", AtPlace(Hover)},
       {"textDocument/definition", [this](const Json& params) { return Definition(params); }},
