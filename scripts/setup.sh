@@ -5,7 +5,7 @@ set -euo pipefail
 
 PACKAGES=(
   cmake ninja-build g++ libc6-dev python3 python3-pefile locales
-  googletest libgtest-dev libbenchmark-dev
+  googletest libgtest-dev libbenchmark-dev nlohmann-json3-dev
   g++-mingw-w64-i686-posix
   wine wine32:i386 fonts-wine
   xvfb openbox xdotool x11-utils imagemagick

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/line_form.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"
 #include "platform/files.h"
@@ -13,17 +14,10 @@
 namespace basMain {
 namespace {
 
-using runtime::Remove;
-using runtime::ToUpper;
-using runtime::Trim;
-
-// Trimmed first and rid of tabs after it: a line that is indented with a tab and then blanks keeps the blanks.
-std::string NormalisedLine(std::string_view line) { return Remove(Trim(line), '\t'); }
-
 void AddLine(std::string_view line) {
   run.MakroLines.back() = NormalisedLine(line);
-  const std::string key = Trim(ToUpper(run.MakroLines.back()));
-  if (key.starts_with("MARK=")) run.Marks.try_emplace(key, run.LineCount);
+  const std::string key = MarkKey(run.MakroLines.back());
+  if (IsMark(key)) run.Marks.try_emplace(key, run.LineCount);
   run.MakroLines.emplace_back();
   ++run.LineCount;
 }

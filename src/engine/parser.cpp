@@ -1,5 +1,7 @@
 #include "engine/parser.h"
 
+#include <utility>
+
 #include "engine/built_in_variables.h"
 #include "engine/state.h"
 #include "runtime/fault.h"
@@ -26,38 +28,36 @@ void ReplaceUserVariable(std::string& argument) {
 }  // namespace
 
 bool ParseMakroLine(const std::string& line, std::string& verb, Arguments& a) {
-  constexpr std::size_t kFields = 11;  // split for, of which seven are used
   std::string text = Remove(line, '"');
   ExpandBuiltInVariables(text);
-  a.fill("");
-  const auto verbEnd = text.find('=');
-  verb = runtime::ToUpper(std::string_view(text).substr(0, verbEnd));
-  if (verbEnd == std::string::npos) return true;
-
-  // The argument text ends at the next "=", even inside single quotes.
-  const auto rest = std::string_view(text).substr(verbEnd + 1);
-  std::array<std::string, kFields> fields;
-  SplitString(rest.substr(0, rest.find('=')), fields);
-  for (std::size_t i = 1; i < a.size(); ++i) {
-    a[i] = fields[i - 1];
-    ReplaceUserVariable(a[i]);
-  }
+  SplitCommand(text, verb, a);
+  for (std::size_t i = 1; i < a.size(); ++i) ReplaceUserVariable(a[i]);
   return true;
+}
+
+void SplitCommand(std::string_view text, std::string& verb, Arguments& a) {
+  constexpr std::size_t kFields = 11;  // split for, of which seven are used
+  a.fill("");
+  verb = runtime::ToUpper(text.substr(0, text.find('=')));
+  std::array<std::string, kFields> fields;
+  SplitString(ArgumentText(text), fields);
+  for (std::size_t i = 1; i < a.size(); ++i) a[i] = std::move(fields[i - 1]);
+}
+
+// It ends at the next "=", even inside single quotes.
+std::string_view ArgumentText(std::string_view text) {
+  const auto verbEnd = text.find('=');
+  if (verbEnd == std::string_view::npos) return {};
+  const auto rest = text.substr(verbEnd + 1);
+  return rest.substr(0, rest.find('='));
 }
 
 void SplitString(std::string_view text, std::span<std::string> fields) {
   for (std::string& field : fields) field.clear();
-  std::string closed(text);
-  if (!closed.ends_with(',')) closed += ',';
-  bool quoted = false;
-  std::size_t start = 0;
   std::size_t index = 0;
-  for (std::size_t i = 0; i < closed.size() && index < fields.size(); ++i) {
-    if (closed[i] == '\'') quoted = !quoted;
-    if (closed[i] != ',' || quoted) continue;
-    fields[index++] = Remove(std::string_view(closed).substr(start, i - start), '\'');
-    start = i + 1;
-  }
+  VisitFields(text, [&](std::size_t start, std::size_t end) {
+    if (index < fields.size()) fields[index++] = Remove(text.substr(start, end - start), '\'');
+  });
 }
 
 }  // namespace basMain

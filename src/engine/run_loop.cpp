@@ -5,6 +5,7 @@
 
 #include "automation/state.h"
 #include "clients/state.h"
+#include "engine/line_form.h"
 #include "engine/line_watch.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"
@@ -108,25 +109,22 @@ bool ProcessMakro(std::int32_t startLine) {
 }
 
 void MakroAction(std::string line) {
-  if (line.empty()) return;
-  const std::string start = runtime::ToUpper(std::string_view(line).substr(0, 3));
-  if (start == "DIM") {
-    run.UserVariables.Declare(line.size() > 4 ? line.substr(4) : "");
-    return;
+  switch (FormOf(line)) {
+    case LineForm::Empty:
+    case LineForm::Comment:
+      return;
+    case LineForm::Declaration:
+      run.UserVariables.Declare(DeclaredName(line));
+      return;
+    case LineForm::Statement:
+      break;
   }
-  if (start == "REM") return;
-
-  const auto variable =
-      run.UserVariables.AnyDeclared() ? run.UserVariables.Find(line.substr(0, line.find('='))) : std::nullopt;
+  const auto variable = run.UserVariables.AnyDeclared() ? run.UserVariables.Find(AssignedName(line)) : std::nullopt;
   if (!variable) {
     MakroExecute(line);
     return;
   }
-  // All further "=" are dropped: the parts behind the first one are joined with nothing between them.
-  std::string command = line.find('=') == std::string::npos ? "" : line.substr(line.find('=') + 1);
-  command = runtime::Remove(command, '=');
-  command = runtime::Remove(runtime::Replace(command, "(", "="), ')');
-  const std::string result = MakroExecute(command);
+  const std::string result = MakroExecute(AssignedCommand(line));
   // A nested run may have replaced the variables meanwhile.
   FailOnFault([&] { run.UserVariables.SetValue(*variable, result); });
 }
@@ -134,7 +132,7 @@ void MakroAction(std::string line) {
 bool GoToLine(const std::string& name) {
   return Standard("GoToLine", [&] {
     const std::string key = runtime::ToUpper("MARK=" + name);
-    const auto mark = run.Marks.find(runtime::Trim(key));
+    const auto mark = run.Marks.find(MarkKey(key));
     if (mark == run.Marks.end()) {
       run.LastError = "Sprungmarke (" + name + ") konnte nicht gefunden werden.";
       return false;
