@@ -371,7 +371,9 @@ class LookTest(FormsTest):
         self.resize(50, 50)
         wait_until(lambda: size(self.probe.window(TITLE)) < before, "a smaller form")
         smallest = self.probe.window(TITLE)
-        for control in self.probe.controls(smallest):
+        controls = self.probe.controls(smallest)
+        self.assertNotEqual(controls, [])
+        for control in controls:
             self.assertGreaterEqual(control.place[0], smallest.place[0], control)
             self.assertLessEqual(control.place[2], smallest.place[2], control)
             self.assertLessEqual(control.place[3], smallest.place[3], control)

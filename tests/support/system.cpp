@@ -3,6 +3,7 @@
 #include "engine/macro_file.h"
 #include "engine/run_loop.h"
 #include "environment/file_system.h"
+#include "forms/simulated/user.h"
 #include "frame/log.h"
 #include "frame/state.h"
 #include "platform/registry.h"
@@ -18,6 +19,13 @@ namespace simulated = platform::simulated;
 SystemTest::SystemTest() {
   basMain::FileSystemState.emplace();
   basMain::OpenLog();
+}
+
+SystemTest::~SystemTest() { ExpectNoUnaskedAnswers(); }
+
+void ExpectNoUnaskedAnswers() {
+  EXPECT_EQ(forms::simulated::UnaskedAnswers(), std::vector<std::string>{}) << "nobody asked the user for these";
+  EXPECT_EQ(simulated::UnaskedAnswers(), std::vector<std::string>{}) << "nobody asked the user for these";
 }
 
 void InstallSuite(const std::string& directory) {

@@ -20,14 +20,19 @@ inline const std::string kCompleted = "Die Verarbeitung ist erfolgreich abgeschl
 inline const std::string kStopped = "Die Verarbeitung wurde angehalten.";
 
 // Every test starts with a fresh desktop, fresh forms and fresh module state. The log is open, the main form is not
-// loaded: macros run directly, without the program around them.
+// loaded: macros run directly, without the program around them. It ends with every prepared answer asked for.
 class SystemTest : public testing::Test {
  protected:
   SystemTest();
+  ~SystemTest() override;
 
  private:
   rehearsal::FreshSystem system_;
 };
+
+// Fails the test if the user was prepared for a dialog, menu, message box or file dialog that has not come up, so that
+// what the test expects in there cannot be left out unseen.
+void ExpectNoUnaskedAnswers();
 
 // The suite's data directory, as its installation leaves it in the registry.
 void InstallSuite(const std::string& directory = "C:\\TeRu");

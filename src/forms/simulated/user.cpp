@@ -110,6 +110,12 @@ void Confirm(Form& form) {
 
 void WhenMenu(const std::string& caption) { state.menuChoices.push_back(caption); }
 
+std::vector<std::string> UnaskedAnswers() {
+  std::vector<std::string> unasked(state.modalAnswers.size(), "dialog");
+  unasked.insert(unasked.end(), state.menuChoices.begin(), state.menuChoices.end());
+  return unasked;
+}
+
 Control* Focused() { return state.focused; }
 
 std::optional<std::size_t> BroughtIntoView() { return state.broughtIntoView; }

@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "forms/form.h"
 
@@ -39,6 +40,8 @@ void WheneverModal(std::function<void(Form&)> answer);
 void Confirm(Form& form);
 // The next menu's user chooses the entry with this caption; without a choice the menu closes.
 void WhenMenu(const std::string& caption);
+// Prepared for the user, but nobody asked: "dialog" for an answer of WhenModal, and the captions of menu entries.
+std::vector<std::string> UnaskedAnswers();
 
 // The control that has the focus, or null.
 Control* Focused();

@@ -174,6 +174,8 @@ void WhileMessageBox(std::function<void(const ShownBox&)> hook);
 // File dialogs: the records handed over so far, and the answers to the next ones; without one the user cancels.
 const std::vector<OPENFILENAME>& FileDialogs();
 void AnswerFileDialog(std::string path);
+// Prepared for the user, but nobody asked: the paths of file dialogs, and "message box" for a hook that never ran.
+std::vector<std::string> UnaskedAnswers();
 
 struct StartedProgram {
   std::string command;

@@ -73,9 +73,19 @@ ModalScope::~ModalScope() {
 }
 
 const std::vector<ShownBox>& MessageBoxes() { return TheDesktop().messageBoxes; }
-void WhileMessageBox(std::function<void(const ShownBox&)> hook) { TheDesktop().whileMessageBox = std::move(hook); }
+void WhileMessageBox(std::function<void(const ShownBox&)> hook) {
+  TheDesktop().messageBoxAwaited = hook != nullptr;
+  TheDesktop().whileMessageBox = std::move(hook);
+}
 const std::vector<OPENFILENAME>& FileDialogs() { return TheDesktop().fileDialogs; }
 void AnswerFileDialog(std::string path) { TheDesktop().fileAnswers.push_back(std::move(path)); }
+
+std::vector<std::string> UnaskedAnswers() {
+  const Desktop& desktop = TheDesktop();
+  std::vector<std::string> unasked(desktop.fileAnswers.begin(), desktop.fileAnswers.end());
+  if (desktop.messageBoxAwaited) unasked.push_back("message box");
+  return unasked;
+}
 
 }  // namespace simulated
 
@@ -89,7 +99,10 @@ std::int32_t MessageBoxA(std::int32_t /*hWnd*/, const std::string& lpText, const
   const ModalScope modal(0);
   const std::int32_t box = AddBox(lpText, lpCaption);
   HandleOwnMessages();
-  if (const auto hook = TheDesktop().whileMessageBox) hook(shown);
+  if (const auto hook = TheDesktop().whileMessageBox) {
+    TheDesktop().messageBoxAwaited = false;
+    hook(shown);
+  }
   DestroyWindow(box);
   return IDOK;
 }

@@ -146,6 +146,7 @@ struct Desktop {
   std::vector<std::string> missingPrograms;
   std::vector<ShownBox> messageBoxes;
   std::function<void(const ShownBox&)> whileMessageBox;
+  bool messageBoxAwaited = false;  // the hook has not run yet
   std::vector<OPENFILENAME> fileDialogs;
   std::deque<std::string> fileAnswers;
 

@@ -1,4 +1,5 @@
 // Hot keys, notification area, dialogs and programs of the simulated desktop.
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -14,6 +15,7 @@
 #include "platform/system.h"
 #include "platform/window_lookup.h"
 #include "platform/window_state.h"
+#include "support/system.h"
 
 namespace {
 
@@ -25,6 +27,8 @@ class SimulatedShell : public testing::Test {
     platform::simulated::Reset();
     window = platform::simulated::AddWindow({.className = "Eigen", .process = platform::simulated::kOwnProcess});
   }
+
+  void TearDown() override { support::ExpectNoUnaskedAnswers(); }
 
   platform::NOTIFYICONDATA Record(const char* icon, const char* tip) {
     platform::NOTIFYICONDATA record;
@@ -155,6 +159,19 @@ TEST_F(SimulatedDialogs, MessageBoxIsAWindowWhileItIsUp) {
   ASSERT_EQ(platform::simulated::MessageBoxes().size(), 1u);
   EXPECT_EQ(platform::simulated::MessageBoxes()[0].caption, "Der Titel");
   EXPECT_EQ(platform::simulated::MessageBoxes()[0].type, 16u);
+}
+
+TEST_F(SimulatedDialogs, TellOfAnswersThatNobodyAskedFor) {
+  using Answers = std::vector<std::string>;
+  platform::simulated::WhileMessageBox([](const auto&) {});
+  platform::simulated::AnswerFileDialog("C:\\eins.txt");
+  EXPECT_EQ(platform::simulated::UnaskedAnswers(), (Answers{"C:\\eins.txt", "message box"}));
+  EXPECT_NONFATAL_FAILURE(support::ExpectNoUnaskedAnswers(), "message box");
+  platform::MessageBoxA(0, "Text", "Titel", 0);
+  EXPECT_EQ(platform::simulated::UnaskedAnswers(), Answers{"C:\\eins.txt"});
+  platform::OPENFILENAME record;
+  platform::GetSaveFileNameA(record);
+  EXPECT_EQ(platform::simulated::UnaskedAnswers(), Answers{});
 }
 
 TEST_F(SimulatedDialogs, MessageBoxHandlesWhatIsPosted) {

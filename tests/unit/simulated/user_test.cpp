@@ -1,6 +1,7 @@
 // Forms on the simulated desktop, and the user who works with them.
 #include "forms/simulated/user.h"
 
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -12,6 +13,7 @@
 #include "platform/system.h"
 #include "platform/window_lookup.h"
 #include "runtime/fault.h"
+#include "support/system.h"
 
 namespace {
 
@@ -69,7 +71,10 @@ class SimulatedUser : public testing::Test {
     platform::simulated::Reset();
     forms::simulated::Reset();
   }
-  void TearDown() override { forms::simulated::Reset(); }
+  void TearDown() override {
+    support::ExpectNoUnaskedAnswers();
+    forms::simulated::Reset();
+  }
 
   // All events but those of loading, showing and unloading.
   Words Actions() const {
@@ -434,6 +439,18 @@ TEST_F(SimulatedUser, MenuRunsTheEntryThatIsChosen) {
   EXPECT_EQ(chosen, 1);
   forms::simulated::WhenMenu("C");
   EXPECT_THROW(forms::PopupMenu(dialog, menu), std::logic_error);
+}
+
+TEST_F(SimulatedUser, TellsOfAnswersThatNobodyAskedFor) {
+  const forms::Menu menu{"mnuDatei", "Datei", {{"mnuA", "A", [] {}}}};
+  WhenModal([](forms::Form& form) { Close(form); });
+  forms::simulated::WhenMenu("A");
+  EXPECT_EQ(forms::simulated::UnaskedAnswers(), (Words{"dialog", "A"}));
+  EXPECT_NONFATAL_FAILURE(support::ExpectNoUnaskedAnswers(), "dialog");
+  dialog.ShowModal();
+  EXPECT_EQ(forms::simulated::UnaskedAnswers(), Words{"A"});
+  forms::PopupMenu(dialog, menu);
+  EXPECT_EQ(forms::simulated::UnaskedAnswers(), Words{});
 }
 
 TEST_F(SimulatedUser, HookOnAFormSeesItsMessagesAndItsEnd) {
