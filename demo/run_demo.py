@@ -8,6 +8,7 @@ import time
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "scripts"))
 
+from project import JOBS  # noqa: E402
 from processes import run, stop_on_signals  # noqa: E402
 from wine_desktop import BUILD, CODE_PAGE, WINDOWS_BUILD, Desktop, DesktopError, wait_until  # noqa: E402
 
@@ -116,7 +117,7 @@ def build():
     print("Building QUMAEXP.EXE and the stand-in for the accounting suite...", flush=True)
     log = RESULTS / "build.log"
     configure = ["cmake", "--preset", "windows"]
-    compile_ = ["cmake", "--build", "--preset", "windows", "--parallel", "2", "--target", "QUMAEXP", "teru"]
+    compile_ = ["cmake", "--build", "--preset", "windows", "--parallel", JOBS, "--target", "QUMAEXP", "teru"]
     with open(log, "wb") as output:
         for command in (configure, compile_):
             if run(command, 1200, cwd=ROOT, stdout=output, stderr=output) != 0:

@@ -15,7 +15,8 @@ import signal
 import subprocess
 import time
 
-ROOT = pathlib.Path(__file__).resolve().parent.parent
+from project import ROOT
+
 BUILD = ROOT / "build"
 WINDOWS_BUILD = BUILD / "windows"
 

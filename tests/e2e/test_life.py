@@ -17,6 +17,7 @@ from harness import (
     EndToEndTest,
     wait_until,
 )
+from project import VERSION
 
 STOPPED = "Die Verarbeitung wurde angehalten."
 STARTED = "Tarven Datenexport wurde gestartet..."
@@ -298,7 +299,7 @@ class MenuTest(LogTest):
     def test_menu_shows_the_about_dialog(self):
         self.start_program()
         self.choose_from_menu("Info")
-        form = self.dialog("TARVEN Datenexport", "Version: 1.0.0", "OK", "&Systeminfo...", title="Info")
+        form = self.dialog("TARVEN Datenexport", "Version: " + VERSION, "OK", "&Systeminfo...", title="Info")
         self.answer("Info", "Return")
         self.probe.wait_gone(form)
 

@@ -4,10 +4,15 @@ import os
 import pathlib
 import re
 import subprocess
+import sys
 import tempfile
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "scripts"))
+
+from project import VERSION  # noqa: E402
+
 MAKRUN = ROOT / "build" / "native" / "makrun"
 STARS = "*" * 80
 COMPLETED = ["Die Verarbeitung ist erfolgreich abgeschlossen.", STARS]
@@ -154,6 +159,9 @@ class MakrunTest(unittest.TestCase):
                    for language in ("en", "de")]
         self.assertEqual(*options)
         self.assertIn("--lang", options[0])
+
+    def test_the_version_is_that_of_the_project(self):
+        self.assertEqual(self.makrun("--version"), ["makrun " + VERSION])
 
     # --- options
 

@@ -87,6 +87,8 @@ std::vector<std::string> CommandLine::Read(const std::vector<std::string>& argum
     if (!LanguageNamed(value)) throw UsageError{Say(kWantsLanguage, {value})};
   });
   Flag("--help", help_);
+  bool version = false;
+  Flag("--version", version);
 
   std::vector<std::pair<std::string, std::string>> given;  // settings and flags with their values
   std::vector<std::string> rest;
@@ -112,6 +114,7 @@ std::vector<std::string> CommandLine::Read(const std::vector<std::string>& argum
     if (const auto flag = flags_.find(name); flag != flags_.end()) *flag->second = true;
     else settings_.at(name)(value);
   }
+  if (version) throw VersionAsked{};
   return rest;
 }
 
@@ -150,6 +153,8 @@ int RunTool(const std::string& tool, const Text& usage, int argc, char** argv,
             const std::function<int(const std::vector<std::string>& arguments)>& body) {
   try {
     return body(ArgumentsOf(argc, argv));
+  } catch (const VersionAsked&) {
+    if (Write(stdout, tool + " " VERSION "\n")) return kFine;
   } catch (const UsageError& error) {
     Complain(tool, error.text);
     Write(stderr, Say(usage));

@@ -22,7 +22,10 @@ struct FileError {
   std::string text;
 };
 
-// The options of a tool. Each has "--lang de|en" and "--help" besides its own.
+// "--version" was among the options; RunTool tells it.
+struct VersionAsked {};
+
+// The options of a tool. Each has "--lang de|en", "--help" and "--version" besides its own.
 class CommandLine {
  public:
   // An option without a value, which must outlive this object.
@@ -31,7 +34,7 @@ class CommandLine {
   void Setting(const std::string& name, std::function<void(const std::string& value)> take);
 
   // Takes the options and yields the rest in its order. The language is set before anything else, so that what is wrong
-  // is told in it. Faults: UsageError.
+  // is told in it. Faults: UsageError, VersionAsked.
   std::vector<std::string> Read(const std::vector<std::string>& arguments);
 
   // "--help" was among the options.

@@ -62,6 +62,7 @@ constexpr Text kUsage(
     u8"  --trace                 each visited line, its verb and arguments, on standard error\n"
     u8"  --lang de|en            language of what makrun says; default that of the system\n"
     u8"  --help                  this text\n"
+    u8"  --version               the version\n"
     u8"\n"
     u8"Exit status: 0 completed, 1 failed, 2 stopped or given up, 64 wrong command line, 66 a file cannot be read.\n",
     u8"Aufruf: makrun [Optionen] MAKRO.MAK\n"
@@ -86,6 +87,7 @@ constexpr Text kUsage(
     u8"  --trace                 jede besuchte Zeile, ihr Verb und ihre Argumente auf der Fehlerausgabe\n"
     u8"  --lang de|en            Sprache, in der makrun spricht; sonst die des Systems\n"
     u8"  --help                  dieser Text\n"
+    u8"  --version               die Version\n"
     u8"\n"
     u8"Rückgabewert: 0 durchgelaufen, 1 fehlgeschlagen, 2 angehalten oder aufgegeben, 64 falscher Aufruf,\n"
     u8"66 eine Datei kann nicht gelesen werden.\n");

@@ -43,7 +43,7 @@ std::string GetEnvironmentVariableA(const std::string& lpName) {
   return found == environment.end() || Fails("GetEnvironmentVariableA") ? "" : found->second;
 }
 
-FileVersion ApplicationVersion() { return {1, 0, 0}; }
+FileVersion ApplicationVersion() { return {VERSION_MAJOR, VERSION_MINOR, VERSION_REVISION}; }
 
 double TwipsPerPixelX() { return TheDesktop().twipsPerPixelX; }
 double TwipsPerPixelY() { return TheDesktop().twipsPerPixelY; }

@@ -38,7 +38,7 @@ TEST_F(AboutTest, ItTellsTitleVersionAndNotice) {
   frmAbout.Show();
   EXPECT_EQ(frmAbout.picIcon.Icon(), "ICOQUM");
   EXPECT_EQ(frmAbout.lblTitle.Caption(), "TARVEN Datenexport");
-  EXPECT_EQ(frmAbout.lblVersion.Caption(), "Version: 1.0.0");
+  EXPECT_EQ(frmAbout.lblVersion.Caption(), "Version: " VERSION);
   EXPECT_EQ(frmAbout.lblDisclaimer.Caption(), resources::Text(resources::TextId::Notice));
   EXPECT_FALSE(frmAbout.lblDisclaimer.Caption().empty());
   EXPECT_EQ(frmAbout.cmdSysInfo.Caption(), "&Systeminfo...");

@@ -63,6 +63,12 @@ TEST_F(CommandLineTest, TellsItInTheLanguageThatIsChosenBehindIt) {
   EXPECT_EQ(Complaint({"--name", "--lang", "de", "--wrong"}), "there is no option --wrong");
 }
 
+TEST_F(CommandLineTest, VersionIsAskedForUnlessTheLineIsWrong) {
+  EXPECT_THROW(line_.Read({"a", "--version"}), tools::VersionAsked);
+  EXPECT_EQ(Complaint({"--version", "--wrong"}), "there is no option --wrong");
+  EXPECT_NO_THROW(line_.Read({"--name", "--version"}));
+}
+
 TEST_F(CommandLineTest, NumberIsWholeAndWithinItsBounds) {
   EXPECT_EQ(tools::ReadNumber("--n", "0", 7), 0);
   EXPECT_EQ(tools::ReadNumber("--n", "7", 7), 7);
