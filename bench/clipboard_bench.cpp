@@ -1,13 +1,10 @@
 // How long it takes to turn the clipboard into a file, whether the time grows with the table and not faster, and how
 // much memory it takes meanwhile.
 //
-// The verbs run as in a macro, on real files. The program ends with 1 when a limit is passed: kLimit for 100,000 lines,
-// a time per line that grows by more than kGrowth from one size to ten times that, and kMemory times the text.
+// The verbs run as in a macro, on real files.
 #include <malloc.h>
 
 #include <algorithm>
-#include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <new>
 #include <string>
@@ -19,6 +16,7 @@
 #include "input/clipboard_capture.h"
 #include "platform/files.h"
 #include "platform/simulated/desktop.h"
+#include "timing.h"
 
 namespace {
 
@@ -52,14 +50,6 @@ constexpr double kMemory = 5.0;  // of the text
 
 const std::string kFile = "C:\\QUMA\\Tabelle.csv";
 
-bool failed = false;
-
-void Check(bool good, const char* what) {
-  if (good) return;
-  std::printf("FAILED: %s\n", what);
-  failed = true;
-}
-
 std::string Table(int lines) {
   std::string text = "Datum\tText\tArt\tBetrag\tWährung\tValuta\tKonto\tBeleg\r\n";
   for (int i = 1; i < lines; ++i)
@@ -68,46 +58,34 @@ std::string Table(int lines) {
   return text;
 }
 
-struct Cost {
-  double seconds;
-  double memory;  // times the text
-};
-
-Cost Measure(const std::string& table, bool (*verb)()) {
-  simulated::Clipboard() = table;
-  if (platform::FileExists(kFile)) platform::DeleteFileA(kFile);
-  const std::size_t before = held;
-  most = held;
-  const auto start = std::chrono::steady_clock::now();
-  Check(verb(), "the verb failed");
-  const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
-  return {passed.count(), static_cast<double>(most - before) / static_cast<double>(table.size())};
+void Register(const std::string& name, bool (*verb)()) {
+  bench::Register(name, {10'000, 100'000, 1'000'000}, {kGrowth, kLimit, 100'000},
+                  [verb](benchmark::State& state, int lines) {
+                    const std::string table = Table(lines);
+                    simulated::Clipboard() = table;
+                    if (platform::FileExists(kFile)) platform::DeleteFileA(kFile);
+                    const std::size_t before = held;
+                    most = held;
+                    bool done = false;
+                    bench::Time(state, lines, [&] { done = verb(); });
+                    const double memory = static_cast<double>(most - before) / static_cast<double>(table.size());
+                    state.counters["memory/text"] = memory;
+                    if (!done) bench::Fail(state, "the verb failed: " + basMain::run.LastError);
+                    else if (memory > kMemory) bench::Fail(state, "too much memory");
+                  });
 }
 
-void MeasureVerb(const char* name, bool (*verb)()) {
-  double perLineBefore = 0;
-  for (const int lines : {10'000, 100'000, 1'000'000}) {
-    const std::string table = Table(lines);
-    Cost best = Measure(table, verb);
-    for (int i = 0; i < 2; ++i) best.seconds = std::min(best.seconds, Measure(table, verb).seconds);
-    std::printf("%-18s %8d lines %6.1f MB  %8.4f s  %6.3f us per line  memory %4.2f times the text\n", name, lines,
-                static_cast<double>(table.size()) / 1e6, best.seconds, best.seconds * 1e6 / lines, best.memory);
-    Check(lines != 100'000 || best.seconds < kLimit, "too slow");
-    Check(best.memory < kMemory, "too much memory");
-    const double perLine = best.seconds / lines;
-    Check(perLineBefore == 0 || perLine <= kGrowth * perLineBefore, "the time grows faster than the table");
-    perLineBefore = perLine;
-  }
+void RegisterAll() {
+  Register("SAVECLIPBOARD", [] { return basMain::SaveClipboard(kFile); });
+  Register("SAVECLIPBOARDZVK", [] { return basMain::SaveClipboardZVK(kFile, "0"); });
 }
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
   simulated::Reset();
   forms::simulated::Reset();
   basMain::FileSystemState.emplace();
   basMain::frame.MainWindow = simulated::AddWindow({.className = "ThunderRT6FormDC", .text = "[a 30060010 2005114]"});
-  MeasureVerb("SAVECLIPBOARD", [] { return basMain::SaveClipboard(kFile); });
-  MeasureVerb("SAVECLIPBOARDZVK", [] { return basMain::SaveClipboardZVK(kFile, "0"); });
-  return failed ? 1 : 0;
+  return bench::Main(argc, argv, RegisterAll);
 }

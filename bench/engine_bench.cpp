@@ -1,13 +1,8 @@
 // How long macros take, and whether the time grows with their size, or that of their data, and not faster.
-//
-// Each figure is the best of some runs, so that a busy machine does not spoil it. The program ends with 1 when a limit
-// is passed: the time limits below, or a time per line that grows by more than kGrowth from one size to ten times that.
 #include <malloc.h>
 
-#include <algorithm>
-#include <chrono>
-#include <cstdio>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,27 +15,27 @@
 #include "frame/log.h"
 #include "platform/messages.h"
 #include "platform/simulated/desktop.h"
+#include "timing.h"
 
 namespace {
 
 namespace simulated = platform::simulated;
 
-constexpr double kGrowth = 5.0;     // memory beyond the caches costs up to 3, a search through all lines 10
-constexpr double kRunLimit = 1.0;   // seconds for 100,000 lines, log included
-constexpr double kLoadLimit = 1.0;  // seconds for 1,000,000 lines
+constexpr double kGrowth = 5.0;        // memory beyond the caches costs up to 3, a search through all lines 10
+constexpr double kRunLimit = 1.0;      // seconds for 100,000 lines, log included, or 1,000 years
+constexpr double kLoadLimit = 1.0;     // seconds for 1,000,000 lines
+constexpr double kRecordsLimit = 5.0;  // seconds for 1,000,000 records
 
 const std::string kMacro = "C:\\QUMA\\BENCH.MAK";
 
-bool failed = false;
-
-void Check(bool good, const std::string& what) {
-  if (good) return;
-  std::printf("FAILED: %s\n", what.c_str());
-  failed = true;
-}
+struct Macro {
+  std::string text;
+  int lines;                           // what the time is divided by: lines, or what else there is to do
+  std::function<void()> desktop = {};  // adds what the macro works on
+};
 
 // A fresh system with an open log and the macro beside it.
-void Prepare(const std::string& macro) {
+void Prepare(const Macro& macro) {
   basMain::log = {};
   basMain::FileSystemState.reset();
   basMain::run = {};
@@ -49,77 +44,26 @@ void Prepare(const std::string& macro) {
   simulated::Reset();
   basMain::FileSystemState.emplace();
   basMain::OpenLog();
-  simulated::PutFile(kMacro, macro);
+  simulated::PutFile(kMacro, macro.text);
+  if (macro.desktop) macro.desktop();
 }
 
-double Seconds(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-struct Macro {
-  std::string text;
-  int lines;                           // what the time is divided by: lines, or what else there is to do
-  std::function<void()> desktop = {};  // adds what the macro works on
-};
-
-struct Times {
-  double load = 1e9;
-  double run = 1e9;
-};
-
-Times BestTimes(const Macro& macro, int repetitions) {
-  Times best;
-  for (int i = 0; i < repetitions; ++i) {
-    Prepare(macro.text);
-    if (macro.desktop) macro.desktop();
-    best.load = std::min(best.load, Seconds([] { basMain::LoadFile(kMacro); }));
-    bool completed = false;
-    best.run = std::min(best.run, Seconds([&] { completed = basMain::ProcessMakro(0); }));
-    Check(completed, "the macro did not complete: " + basMain::run.LastError);
-  }
-  return best;
-}
-
-std::string Print(const char* what, int lines, double seconds) {
-  char text[120];
-  std::snprintf(text, sizeof text, "%-34s %9d lines  %8.4f s  %7.3f us per line", what, lines, seconds,
-                seconds * 1e6 / lines);
-  std::puts(text);
-  return text;
-}
-
-// Sizes that a time limit is meant for; 0: none.
-struct Limits {
-  int runLines = 0;
-  int loadLines = 0;
-  double runSeconds = kRunLimit;
-};
-
-// Times one kind of macro at several sizes, each ten times the one before.
-void Measure(const std::string& kind, const std::vector<int>& sizes, const std::function<Macro(int)>& make,
-             Limits limits) {
-  double loadBefore = 0;
-  double runBefore = 0;
-  for (const int size : sizes) {
+// The time to load such macros, and the time to run them.
+void Register(const std::string& kind, const std::vector<int>& sizes, Macro (*make)(int), bench::Limits load,
+              bench::Limits run) {
+  bench::Register(kind + "/load", sizes, load, [make](benchmark::State& state, int size) {
     const Macro macro = make(size);
-    const Times times = BestTimes(macro, size >= 1'000'000 ? 3 : 5);
-    const std::string load = Print((kind + ", load").c_str(), macro.lines, times.load);
-    const std::string run = Print((kind + ", run").c_str(), macro.lines, times.run);
-    Check(size != limits.loadLines || times.load < kLoadLimit, load + ": too slow");
-    Check(size != limits.runLines || times.run < limits.runSeconds, run + ": too slow");
-    const double loadPerLine = times.load / macro.lines;
-    const double runPerLine = times.run / macro.lines;
-    if (runBefore > 0) {
-      std::printf("%-34s time per line against the size before: load %.2f, run %.2f\n", kind.c_str(),
-                  loadPerLine / loadBefore, runPerLine / runBefore);
-      Check(loadPerLine <= kGrowth * loadBefore, load + ": grows faster than the macro");
-      Check(runPerLine <= kGrowth * runBefore, run + ": grows faster than the macro");
-    }
-    loadBefore = loadPerLine;
-    runBefore = runPerLine;
-  }
+    Prepare(macro);
+    bench::Time(state, macro.lines, [] { basMain::LoadFile(kMacro); });
+  });
+  bench::Register(kind + "/run", sizes, run, [make](benchmark::State& state, int size) {
+    const Macro macro = make(size);
+    Prepare(macro);
+    basMain::LoadFile(kMacro);
+    bool completed = false;
+    bench::Time(state, macro.lines, [&] { completed = basMain::ProcessMakro(0); });
+    if (!completed) bench::Fail(state, "the macro did not complete: " + basMain::run.LastError);
+  });
 }
 
 Macro Messages(int lines) {
@@ -183,18 +127,23 @@ Macro Years(int count) {
   return {"CREATEMATRIX=12,11,Anlagen,1\r\n", count, desktop};
 }
 
+void RegisterAll() {
+  const bench::Limits growth{.growth = kGrowth};
+  Register("messages", {10'000, 100'000, 1'000'000}, Messages, {kGrowth, kLoadLimit, 1'000'000},
+           {kGrowth, kRunLimit, 100'000});
+  Register("variables", {2'000, 20'000, 200'000}, Variables, growth, growth);
+  Register("jumps", {1'000, 10'000, 100'000}, Jumps, growth, growth);
+  Register("records", {10'000, 100'000, 1'000'000}, Records, growth, {kGrowth, kRecordsLimit, 1'000'000});
+  Register("years of a matrix", {100, 1'000}, Years, growth, {kGrowth, kRunLimit, 1'000});
+}
+
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
   // Memory is kept between the repetitions; else the large sizes would time the system that hands out fresh pages.
   mallopt(M_MMAP_MAX, 0);
   mallopt(M_TRIM_THRESHOLD, 1 << 30);
-
-  Measure("messages", {10'000, 100'000, 1'000'000}, Messages, {.runLines = 100'000, .loadLines = 1'000'000});
-  Measure("variables", {2'000, 20'000, 200'000}, Variables, {});
-  Measure("jumps", {1'000, 10'000, 100'000}, Jumps, {});
-  Measure("records", {10'000, 100'000, 1'000'000}, Records, {.runLines = 1'000'000, .runSeconds = 5.0});
-  Measure("years of a matrix", {100, 1'000}, Years, {.runLines = 1'000});
+  const int status = bench::Main(argc, argv, RegisterAll);
   basMain::log = {};  // closes the log while there is a desktop
-  return failed ? 1 : 0;
+  return status;
 }

@@ -11,11 +11,11 @@ import sys
 import time
 import unittest
 
+from project import JOBS
 from processes import Command, run, step_back, stop_on_signals
 from wine_desktop import BUILD, ROOT, WINDOWS_BUILD, Desktop, DesktopError
 
 RESULTS = BUILD / "test"
-JOBS = "2"
 
 
 class Totals:
@@ -149,6 +149,7 @@ def main():
         google_suite(BUILD / "native" / "qumaexp_tests", totals)
         google_suite(BUILD / "native" / "platform_contract_tests", totals)
         run_suite(totals, *python_suite("makrun", ROOT / "tests" / "makrun", 600))
+        run_suite(totals, *python_suite("benchmarks", ROOT / "tests" / "bench", 600))
         first_half.finish(totals)
         # It needs makrun of the native build, and the desktop that the first half has left.
         run_suite(totals, *python_suite("rehearsal", ROOT / "tests" / "rehearsal", 600))
