@@ -98,6 +98,7 @@ TEST_F(FileDialogTest, ADialogThatCannotBeShownYieldsNothing) {
   Fail("GetOpenFileNameA", 1);
   FileDialog dialog;
   EXPECT_EQ(ShowFileDialog(dialog), "");
+  EXPECT_EQ(ShowFileDialog(dialog), "C:\\x\\datei.txt") << "the next one comes up";
 }
 
 TEST_F(FileDialogTest, OpenAndSaveAreTwoDialogs) {

@@ -33,13 +33,11 @@ class HotkeyTest : public SystemTest {
   Lines RunOf(const std::string& macro) { return Header(macro + ".MAK") + Completed({"MSG: " + macro}); }
 
   // Counts the client dialogs, each confirmed as it comes up.
-  void ConfirmClients(int times) {
-    for (int i = 0; i < times; ++i) {
-      forms::simulated::WhenModal([this](forms::Form& form) {
-        if (&form == &frmInputbox) ++dialogs_;
-        forms::simulated::Press(frmInputbox.cmdOK);
-      });
-    }
+  void ConfirmClients() {
+    forms::simulated::WheneverModal([this](forms::Form& form) {
+      if (&form == &frmInputbox) ++dialogs_;
+      forms::simulated::Press(frmInputbox.cmdOK);
+    });
   }
 
   void ExpectMacroMissing() {
@@ -241,7 +239,7 @@ TEST_F(HotkeyTest, AMacroMayLieInAFolderBelowTheProgram) {
 TEST_F(HotkeyTest, WithoutTheSettingTheDialogIsShownForAListedMacro) {
   MacroEntry(1, "TeRu,A.MAK");
   Setting("Makro-Fibu", "Files", "1");
-  ConfirmClients(1);
+  ConfirmClients();
   TargetWindow("TeRu/4711/2005/x");
   PressHotKey();
   EXPECT_EQ(dialogs_, 1);
@@ -254,7 +252,7 @@ TEST_F(HotkeyTest, WithMandantenDlg0NoDialogIsShownForAnyMacro) {
   MacroEntry(1, "TeRu,A.MAK");
   MacroEntry(2, "Fibu,QUMAFIBU.MAK");
   Macro("QUMAFIBU.MAK", {});
-  ConfirmClients(2);
+  ConfirmClients();
   TargetWindow("TeRu/4711/2005/x");
   PressHotKey();
   TargetWindow("Fibu/4711/2005/x");
@@ -268,7 +266,7 @@ TEST_F(HotkeyTest, WithMandantenDlg1NoDialogIsShownForAnUnlistedMacro) {
   Setting("Makro-Fibu", "Files", "2");
   MacroEntry(1, "TeRu,A.MAK");
   MacroEntry(2, "Fibu,B.MAK");
-  ConfirmClients(2);
+  ConfirmClients();
   TargetWindow("TeRu/4711/2005/x");
   PressHotKey();
   EXPECT_EQ(dialogs_, 0);
@@ -293,7 +291,7 @@ TEST_F(HotkeyTest, APressWithoutTheDialogKeepsTheClientThatWasConfirmedLast) {
 TEST_F(HotkeyTest, AnyValueOtherThan1ShowsNoDialog) {
   MacroEntry(1, "TeRu,A.MAK");
   Setting("Makro-Fibu", "Files", "1");
-  ConfirmClients(5);
+  ConfirmClients();
   for (const char* value : {"2", "True", "01", ""}) {
     Setting("Allgemein", "MandantenDLG", value);
     TargetWindow("TeRu/4711/2005/x");
@@ -308,7 +306,7 @@ TEST_F(HotkeyTest, AnyValueOtherThan1ShowsNoDialog) {
 
 TEST_F(HotkeyTest, TheThreeFixedNamesShowTheDialogWhateverFilesSays) {
   Setting("Makro-Fibu", "Files", "15");
-  ConfirmClients(3);
+  ConfirmClients();
   int expected = 0;
   for (const std::string macro : {"QUMAFIBU.MAK", "QUMAFIBUCOMP.MAK", "QUMABILANZ.MAK"}) {
     MacroEntry(1, "TeRu," + macro);
@@ -323,7 +321,7 @@ TEST_F(HotkeyTest, TheThreeFixedNamesShowTheDialogWhateverFilesSays) {
 TEST_F(HotkeyTest, AFixedNameInOtherLettersIsNone) {
   MacroEntry(1, "TeRu,qumafibu.mak");
   Macro("QUMAFIBU.MAK", {});
-  ConfirmClients(1);
+  ConfirmClients();
   TargetWindow("TeRu/4711/2005/x");
   PressHotKey();
   EXPECT_EQ(dialogs_, 0);
@@ -335,7 +333,7 @@ TEST_F(HotkeyTest, AnElementOfFilesThatIsNoNumberCountsEveryEntryAsListed) {
   MacroEntry(1, "Eins,A.MAK");
   MacroEntry(2, "Zwei,B.MAK");
   MacroEntry(3, "Drei,C.MAK");
-  ConfirmClients(3);
+  ConfirmClients();
   int expected = 0;
   for (const char* caption : {"Zwei", "Eins", "Drei"}) {
     TargetWindow(caption);
@@ -347,7 +345,7 @@ TEST_F(HotkeyTest, AnElementOfFilesThatIsNoNumberCountsEveryEntryAsListed) {
 TEST_F(HotkeyTest, AnEmptyElementOfFilesIsNoNumberEither) {
   Setting("Makro-Fibu", "Files", "2,");
   MacroEntry(1, "Eins,A.MAK");
-  ConfirmClients(1);
+  ConfirmClients();
   TargetWindow("Eins");
   PressHotKey();
   EXPECT_EQ(dialogs_, 1);
@@ -355,7 +353,7 @@ TEST_F(HotkeyTest, AnEmptyElementOfFilesIsNoNumberEither) {
 
 TEST_F(HotkeyTest, ANumberOfNoEntryListsNothingHoweverLargeItIs) {
   MacroEntry(1, "Eins,A.MAK");
-  ConfirmClients(4);
+  ConfirmClients();
   for (const char* files : {"16", "-1", "40000", "99999999999"}) {
     Setting("Makro-Fibu", "Files", files);
     TargetWindow("Eins");
@@ -367,7 +365,7 @@ TEST_F(HotkeyTest, ANumberOfNoEntryListsNothingHoweverLargeItIs) {
 TEST_F(HotkeyTest, AnEmptyListOfFilesListsNothing) {
   Setting("Makro-Fibu", "Files", "");
   MacroEntry(1, "Eins,A.MAK");
-  ConfirmClients(1);
+  ConfirmClients();
   TargetWindow("Eins");
   PressHotKey();
   EXPECT_EQ(dialogs_, 0);
@@ -377,7 +375,7 @@ TEST_F(HotkeyTest, ElementsOfFilesMayHaveBlanksAround) {
   Setting("Makro-Fibu", "Files", "3, 1 ");
   MacroEntry(1, "Eins,A.MAK");
   MacroEntry(2, "Zwei,B.MAK");
-  ConfirmClients(2);
+  ConfirmClients();
   TargetWindow("Eins");
   PressHotKey();
   EXPECT_EQ(dialogs_, 1);
@@ -389,7 +387,7 @@ TEST_F(HotkeyTest, ElementsOfFilesMayHaveBlanksAround) {
 TEST_F(HotkeyTest, OverAForeignWindowTheRememberedNumberIs0) {
   Setting("Makro-Fibu", "Files", "1");
   MacroEntry(1, "Eins,A.MAK");
-  ConfirmClients(2);
+  ConfirmClients();
   TargetWindow("Eins");
   PressHotKey();
   EXPECT_EQ(dialogs_, 1);
@@ -404,7 +402,7 @@ TEST_F(HotkeyTest, OverAForeignWindowTheRememberedNumberIs0) {
 TEST_F(HotkeyTest, OverAForeignWindowAFixedNameStillShowsTheDialog) {
   MacroEntry(1, "Eins,QUMAFIBU.MAK");
   Macro("QUMAFIBU.MAK", {});
-  ConfirmClients(2);
+  ConfirmClients();
   TargetWindow("Eins");
   PressHotKey();
   TargetWindow("Editor");
@@ -543,7 +541,7 @@ TEST_F(HotkeyTest, AListedMacroStaysListedWhenItsPlaceholderIsReplaced) {
   Setting("Makro-Fibu", "Files", "1");
   MacroEntry(1, "MERLA,QUMA%MerlaVersion%.MAK");
   Macro("QUMA280.MAK", {});
-  ConfirmClients(1);
+  ConfirmClients();
   TargetWindow("MERLA");
   PressHotKey();
   EXPECT_EQ(dialogs_, 1);
@@ -553,7 +551,7 @@ TEST_F(HotkeyTest, AFixedNameMayComeOutOfThePlaceholder) {
   Setting("MERLA", "Version", "FIBU");
   MacroEntry(1, "MERLA,QUMA%MerlaVersion%.MAK");
   Macro("QUMAFIBU.MAK", {});
-  ConfirmClients(1);
+  ConfirmClients();
   TargetWindow("MERLA");
   PressHotKey();
   EXPECT_EQ(dialogs_, 1);

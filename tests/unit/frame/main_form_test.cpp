@@ -216,6 +216,7 @@ TEST_F(MainFormTest, OtherMouseEventsDoNothing) {
     MouseAtTray(message);
     EXPECT_NO_THROW(forms::Pump()) << message;
   }
+  EXPECT_THROW(RightClickAtIcon(), ProgramEnded) << "the menu was still to come";
 }
 
 TEST_F(MainFormTest, MnuProtoShowsTheLogModally) {
