@@ -78,7 +78,7 @@ TEST_F(SearchPath, FindsAFileWithItsExtensionAndWithout) {
 }
 
 TEST_F(SearchPath, FindsNoFolder) {
-  platform::CreateDirectoryA(contract::Path("ordner"));
+  platform::CreateDirectoryW(contract::Path("ordner"));
   EXPECT_EQ(platform::SearchPathA(contract::Path("ordner"), ".exe"), "");
   EXPECT_EQ(platform::SearchPathA("", ".exe"), "");
 }
