@@ -60,6 +60,7 @@ void RunLines(std::int32_t startLine) {
     std::string line = Line(i);
     if (lineWatch.Visited) lineWatch.Visited(i, line);
     MakroAction(std::move(line));
+    if (lineWatch.Done) lineWatch.Done(i);
     ++run.CurrentLine;
     if (run.LoopStart == 0) frmStatus.ProgressBar.SetValue(run.CurrentLine);
   }

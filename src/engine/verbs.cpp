@@ -265,9 +265,12 @@ constexpr Verb kVerbs[] = {
 };
 static_assert(std::size(kVerbs) == 110);
 
-// True when the verb did its work or was passed over; false fails a live line.
+// On the skipped side of a condition.
+bool IsPassedOver(const Verb& verb) { return verb.kind != Branch && !run.ExecEnabled; }
+
+// True when the verb did its work; false fails a live line.
 bool CarryOut(const Verb& verb, const Arguments& a, std::string& value) {
-  if (verb.kind != Branch && !run.ExecEnabled) return false;
+  if (IsPassedOver(verb)) return false;
   const bool result = verb.handler(a, value);
   if (verb.kind == Condition) run.ExecEnabled = result;
   return result || verb.kind == Condition || verb.kind == ForcedAction || verb.kind == ForcedValue;
@@ -277,6 +280,11 @@ bool CarryOut(const Verb& verb, const Arguments& a, std::string& value) {
 
 std::span<const Verb> Verbs() { return kVerbs; }
 
+const Verb* FindVerb(std::string_view word) {
+  const auto verb = std::ranges::find(kVerbs, word, &Verb::word);
+  return verb == std::end(kVerbs) ? nullptr : verb;
+}
+
 std::string MakroExecute(const std::string& line) {
   if (line.empty()) return "";
   std::string value;
@@ -284,10 +292,10 @@ std::string MakroExecute(const std::string& line) {
     std::string word;
     Arguments a;
     ParseMakroLine(line, word, a);
-    if (lineWatch.Parsed) lineWatch.Parsed(word, a);
-    const auto verb = std::find_if(std::begin(kVerbs), std::end(kVerbs), [&](const Verb& v) { return word == v.word; });
+    const Verb* const verb = FindVerb(word);
+    if (lineWatch.Parsed) lineWatch.Parsed(word, a, verb == nullptr ? !run.ExecEnabled : IsPassedOver(*verb));
     bool ok = false;
-    if (verb != std::end(kVerbs)) ok = CarryOut(*verb, a, value);
+    if (verb != nullptr) ok = CarryOut(*verb, a, value);
     else if (run.ExecEnabled) run.LastError = resources::Text(resources::TextId::UnknownCommand) + word;
     if (!ok && run.ExecEnabled) run.RunFailed = true;
   } catch (const runtime::Fault& fault) {

@@ -31,6 +31,9 @@ struct Verb {
 // All 110 verb words.
 std::span<const Verb> Verbs();
 
+// The verb of an upper-case word, or null.
+const Verb* FindVerb(std::string_view word);
+
 // Carries out one line and yields its result, empty unless the verb is a value verb. A verb that is not known fails the
 // run with text 1015, a fault with the standard error text for "MakroExecute", unless the line stands in a skipped
 // branch.

@@ -14,7 +14,9 @@ COMPLETED = ["Die Verarbeitung ist erfolgreich abgeschlossen.", STARS]
 STOPPED = ["Die Verarbeitung wurde angehalten.", STARS]
 
 
-class MakrunTest(unittest.TestCase):
+class MakrunCase(unittest.TestCase):
+    """Macros and desktop files in a folder of their own, and makrun's answers."""
+
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
@@ -39,6 +41,8 @@ class MakrunTest(unittest.TestCase):
     def desktop(self, text):
         return ["--desktop", self.file("test.desktop", text, "utf-8")]
 
+
+class MakrunTest(MakrunCase):
     # --- exit status and output
 
     def test_a_completed_run_prints_its_log_and_ends_with_0(self):
@@ -48,7 +52,9 @@ class MakrunTest(unittest.TestCase):
     def test_a_failed_run_ends_with_1_and_tells_the_error(self):
         macro = self.macro("MSG=a", "RAISEERROR=Das war ein Fehler", "MSG=b")
         self.assertEqual(self.makrun(macro, status=1), ["MSG: a", "Das war ein Fehler"])
-        self.assertEqual(self.errors, "Das war ein Fehler\n")
+        self.assertEqual(self.errors.splitlines(), [
+            f"{macro}:2: RAISEERROR: Das war ein Fehler", "  line:        RAISEERROR=Das war ein Fehler",
+            '  carried out: RAISEERROR "Das war ein Fehler"'])
 
     def test_a_stopped_run_ends_with_2(self):
         self.assertEqual(self.makrun(self.macro("STOP", "MSG=b"), status=2), STOPPED)
@@ -272,9 +278,9 @@ class MakrunTest(unittest.TestCase):
         log = self.makrun("--answer", "frmInputEST.optFromTo", "--answer", "frmInputEST.txtFrom=x",
                           self.macro("MSG=a", "SHOWINPUTDLG=Mandanten?"), status=2)
         self.assertEqual(log, ["MSG: a"])
-        self.assertEqual(self.errors.splitlines(), [
-            "makrun: message box: Bitte geben Sie eine numerische Mandantennummer ein!",
-            "makrun: given up: line 2 (SHOWINPUTDLG=Mandanten?) shows frmInputEST, which stays open whatever is answered"])
+        said = self.errors.splitlines()
+        self.assertIn(":2: SHOWINPUTDLG: given up: shows frmInputEST, which stays open whatever is answered", said[0])
+        self.assertEqual(said[-1], "makrun: message box: Bitte geben Sie eine numerische Mandantennummer ein!")
 
     def test_a_dialog_takes_the_answers_that_name_it_and_leaves_the_others(self):
         macro = self.macro("SHOWINPUTDLG=eins", "SHOWINPUTDLG=zwei")
@@ -332,22 +338,26 @@ class MakrunTest(unittest.TestCase):
         macro = self.macro("MSG=a", "WAITFORDIALOG=kommt,nie")
         log = self.makrun(macro, status=2)
         self.assertEqual(log, ["MSG: a", "WaitForDialog: kommt / nie", "<Cancel>"])
-        self.assertIn("line 2 (WAITFORDIALOG=kommt,nie)", self.errors)
-        self.assertTrue(self.errors.endswith("after 3600 seconds\n"), self.errors)
+        self.assertEqual(self.errors.splitlines(), [
+            f"{macro}:2: WAITFORDIALOG: given up: went on waiting although the user had cancelled after 3600 seconds",
+            "  line:        WAITFORDIALOG=kommt,nie", '  carried out: WAITFORDIALOG "kommt", "nie"',
+            '  because:     there is no window with "kommt" in its title; there are: '
+            '"TeRu - 0012 / 4711 / 2005 / Probelauf"'])
 
     def test_a_wait_is_given_up_a_minute_after_the_cancel(self):
         self.assertEqual(self.makrun("--time-limit", 1, self.macro("WAIT=61000", "MSG=a")), ["MSG: a", *COMPLETED])
         self.assertEqual(self.makrun("--time-limit", 1, self.file("test.mak", "WAIT=61001"), status=2), [])
-        self.assertIn("line 1 (WAIT=61001)", self.errors)
+        self.assertIn("test.mak:1: WAIT: given up: went on waiting", self.errors)
 
     def test_a_macro_that_passes_the_line_limit_is_given_up_with_its_line(self):
         macro = self.macro("REM", "MARK=a", "GOTO=a")
         self.makrun("--line-limit", 100, macro, status=2)
-        self.assertRegex(self.errors, r"line [23] \(.*\).*limit of 100 lines")
+        # Lines 1 and 2 once, then line 3 and, behind each of its jumps, line 2: the 101st visit is one of line 3.
+        self.assertIn(f"{macro}:3: GOTO: given up: passed the limit of 100 lines\n", self.errors)
         macro = self.file("test.mak", "MSG=a\r\nMSG=b")
         self.assertEqual(self.makrun("--line-limit", 3, macro), ["MSG: a", "MSG: b", *COMPLETED])  # ends empty
         self.assertEqual(self.makrun("--line-limit", 1, macro, status=2), ["MSG: a"])
-        self.assertIn("line 2 (MSG=b) passed the limit of 1 lines", self.errors)
+        self.assertIn(":2: MSG: given up: passed the limit of 1 lines\n", self.errors)
 
     def test_real_time_sleeps(self):
         macro = self.macro("WAIT=1500")
@@ -360,7 +370,123 @@ class MakrunTest(unittest.TestCase):
         self.makrun("--trace", macro)
         self.assertEqual(self.errors.splitlines(), [
             "1: REM Kopf", "2: DIM A", '3: VALUE "x y"', '4: MSG "x y", "ü"', '5: IF STRCOMP "1", "2"',
-            '6: MSG "14.03.2006"', "7: ENDIF", "8: "])
+            '6: (passed over) MSG "14.03.2006"', "7: ENDIF", "8: "])
+
+    def test_a_trace_marks_what_has_no_effect_and_nothing_else(self):
+        macro = self.macro("DIM A", "IF STRCOMP=1,2", "REM", "DIM B", "A=VALUE(x)", "unbekannt=1", "ELSE", "IF STRCOMP=1,2",
+                           "GOTO=a", "ENDIF", "MARK=a")
+        self.makrun("--trace", macro)
+        self.assertEqual([line for line in self.errors.splitlines() if "passed over" in line],
+                         ['5: (passed over) VALUE "x"', '6: (passed over) UNBEKANNT "1"', '9: (passed over) GOTO "a"'])
+        self.makrun("--trace", "--lang", "de", macro)
+        self.assertIn('9: (übergangen) GOTO "a"', self.errors)
+
+    def test_the_verbs_are_listed_with_kind_and_arguments(self):
+        listed = self.makrun("--list-verbs")
+        self.assertEqual(len(listed), 110)
+        for line in ["WAIT (action): milliseconds", "CLEARCLIPBOARD (action)", "IF STRCOMP (condition): text, text",
+                     "READTEXT (value): id, window, exact, class, frame id, frame class", "ELSE (branch)",
+                     "CONFIRMDIALOG (action, never fails): title fragment, text fragment",
+                     "READINI (value, always counts as done): section, key"]:
+            self.assertIn(line, listed)
+        guide = (ROOT / "docs" / "macros.md").read_text().split("\n## The verbs\n")[1]
+        words = [word for row in re.findall(r"^\| (`.*?`) \|", guide, re.M) for word in re.findall("`(.*?)`", row)]
+        self.assertEqual(sorted(line.split(" (")[0] for line in listed), sorted(words))
+        self.assertIn("WAIT (Aktion): milliseconds", self.makrun("--list-verbs", "--lang", "de"))
+
+    # --- reports
+
+    def report(self, *lines, status=1, options=()):
+        """The report of the one line that did not do its work, without the macro's name."""
+        macro = self.macro(*lines)
+        self.makrun(*options, macro, status=status)
+        return self.errors.replace(macro + ":", "").splitlines()
+
+    def test_a_failure_without_a_text_tells_what_was_looked_for(self):
+        desktop = self.desktop(
+            'window main "TeRu"\n'
+            '  control SysListView32 4\n'
+            '  control Button 5 "Haken"\n'
+            '    style checkbox\n')
+        for line, said in [
+            ("WAIT=abc", 'WAIT: "abc" is no number of milliseconds'),
+            ("SLEEP=", 'SLEEP: "" is no number of milliseconds'),
+            ("MOUSECLICK=MIDDLE", 'MOUSECLICK: "MIDDLE" is neither LEFT nor RIGHT'),
+            ("MOUSEMOVETOCTL=", "MOUSEMOVETOCTL: neither a class nor a text is given"),
+            ("SETFOCUSCTL=,,4", "SETFOCUSCTL: neither a class nor a text is given"),
+            ("RAISEERROR=", "RAISEERROR: no text is given"),
+            ("SELECTLIST=4,TeRu,1", "SELECTLIST: the list is empty"),
+            ("READLISTITEM=x,4,TeRu,1", "READLISTITEM: the list is empty"),
+            ("GETCHECK=5,TeRu,1", "GETCHECK: the box is not checked"),
+            ("GETTEXT=x,7,TeRu,1", 'GETTEXT: the window "TeRu" has no control with the id 7, directly in it (no class is '
+                                   "given)"),
+            ("GETTEXT=x,7,Taru,1", 'GETTEXT: there is no window with the title "Taru"; there are: "TeRu"'),
+            ("SENDKEY2=x,9,TeRu,SysListView32", 'SENDKEY2: the window "TeRu" has no control with the id 9, of the class '
+                                                '"SysListView32"; it has: id 4 of the class "SysListView32" with the text ""'),
+        ]:
+            with self.subTest(line):
+                report = self.report("MSG=a", line, options=desktop)
+                self.assertEqual(report[0], "2: " + said)
+                self.assertEqual(report[1], "  line:        " + line)
+                self.assertEqual(len(report), 3)
+
+    def test_an_older_text_is_not_told_for_a_failure_without_one(self):
+        report = self.report("IF GETTEXT=x,7,TeRu,0", "ENDIF", "IF SELECTCOMBO=x,7,TeRu", "ENDIF", "WAIT=abc")
+        self.assertEqual(report[0], '5: WAIT: "abc" is no number of milliseconds')
+
+    def test_a_line_is_shown_as_it_stands_and_as_it_was_carried_out(self):
+        report = self.report("DIM Grund", "Grund=VALUE(Größe)", 'RAISEERROR="Grund",$DATE')
+        self.assertEqual(report, ["3: RAISEERROR: Größe", '  line:        RAISEERROR="Grund",$DATE',
+                                  '  carried out: RAISEERROR "Größe", "14.03.2006"'])
+
+    def test_each_failure_of_a_resumed_run_is_told(self):
+        report = self.report("RAISEERROR=eins", "RAISEERROR=eins", status=0, options=("--resume", 2))
+        self.assertEqual([line for line in report if not line.startswith(" ")],
+                         ["1: RAISEERROR: eins", "2: RAISEERROR: eins"])
+
+    def test_a_cancelled_wait_tells_what_it_waited_for(self):
+        desktop = self.desktop('window main "TeRu"\n  control Static 1 "Bitte warten"\n')
+        for line, why in [
+            ("WAITFORWINDOW=TeRu,1,,Edit,1", 'the window "TeRu" has no control with the id 1, of the class "Edit"; it has: '
+                                             'id 1 of the class "Static" with the text "Bitte warten"'),
+            ("WAITFORWINDOW=TeRu,1,Bitte", "no class is given, and a control is found by its text only together with its "
+                                           "class"),
+            ("WAITFORCLIPBOARD", "no text came to the clipboard"),
+            ("WAITFORFILE=C:\\x.csv", 'there is no file "C:\\x.csv"'),
+            ("WAITFORFILE=C:\\QUMA\\*.*", 'there is no file of the folder and extension of "C:\\QUMA\\*.*"'),
+        ]:
+            with self.subTest(line):
+                report = self.report(line, status=2, options=desktop)
+                self.assertEqual(report[0], f"1: {line.split('=')[0]}: cancelled by the user")
+                self.assertEqual(report[-1], "  because:     " + why)
+        report = self.report("WAITFORDIALOG=Te,fertig", status=2, options=desktop)
+        self.assertEqual(report[-1], '  because:     the window "TeRu" shows no text with "fertig"')
+
+    def test_a_dialog_that_is_cancelled_is_told_and_a_stop_is_not(self):
+        options = ("--answer", "frmInputEST.cmdCancel")
+        self.assertEqual(self.report("SHOWINPUTDLG=wer?", status=2, options=options)[0],
+                         "1: SHOWINPUTDLG: cancelled by the user")
+        self.assertEqual(self.report("STOP", status=2), [])
+
+    def test_a_report_is_german_on_a_german_system(self):
+        macro = self.macro("WAIT=abc")
+        self.makrun(macro, status=1, LC_ALL="de_DE.UTF-8")
+        self.assertEqual(self.errors.splitlines(), [
+            f'{macro}:1: WAIT: "abc" ist keine Zahl von Millisekunden', "  Zeile:      WAIT=abc",
+            '  ausgeführt: WAIT "abc"'])
+
+    def test_an_encoding_that_the_program_does_not_read_is_warned_of(self):
+        for text, encoding, line, said in [
+            ("REM\nMSG=ü", "utf-8", 2, "is in UTF-8"), ("REM", "utf-8-sig", 1, "begins with a byte order mark"),
+            ("MSG=a", "utf-16", 1, "is in UTF-16"), ("MSG=a", "utf-16-le", 1, "is in UTF-16"),
+        ]:
+            with self.subTest(encoding):
+                path = self.file("test.mak", text, encoding)
+                done = subprocess.run([str(MAKRUN), "--lang", "en", path], capture_output=True, timeout=60)
+                self.assertIn(f"{path}:{line}: warning: the file {said}", done.stderr.decode())
+                self.assertIn("(Windows-1252)", done.stderr.decode())
+        self.makrun(self.file("test.mak", "MSG=ü", "cp1252"))
+        self.assertEqual(self.errors, "")
 
     # --- desktop files
 
@@ -841,6 +967,28 @@ class MakrunTest(unittest.TestCase):
                 status = 0 if log.splitlines()[-1] == STARS else 1
                 path = self.macro(*macro.splitlines(), name="export.mak")
                 self.assertEqual(self.makrun(*self.desktop(desktop), path, status=status), log.splitlines())
+
+    def test_the_documentation_tells_what_is_said_of_fifteen_mistakes(self):
+        text = (ROOT / "docs" / "makrun.md").read_text()
+        example = text.split("\n## Example\n")[1]
+        self.file("export.desktop", re.search(r"^```desktop\n(.*?)^```$", example, re.M | re.S)[1], "utf-8")
+        titles = re.split(r"^### (\d+\. .*)\n", text, flags=re.M)[1:]
+        self.assertEqual(len(titles), 2 * 15)
+        for title, section in zip(titles[::2], titles[1::2]):
+            with self.subTest(title):
+                options, macro = re.search(r"^```mistake([^\n]*)\n(.*?)^```$", section, re.M | re.S).groups()
+                options = options.split()
+                encoding = "utf-8" if "utf-8" in options else "cp1252"
+                self.file("mistake.mak", macro, encoding)
+                done = subprocess.run([str(MAKRUN), "--lang", "en", "--desktop", "export.desktop",
+                                       *[option for option in options if option != "utf-8"], "mistake.mak"],
+                                      capture_output=True, timeout=60, cwd=self.folder)
+                told = dict(re.findall(r"^```(said|logged)\n(.*?)^```$", section, re.M | re.S))
+                self.assertTrue(told)
+                for name, output in [("said", done.stderr), ("logged", done.stdout)]:
+                    if name in told or name == "said":
+                        lines = [line.rstrip() for line in output.decode().splitlines()]
+                        self.assertEqual(lines, told.get(name, "").splitlines())
 
 
 if __name__ == "__main__":

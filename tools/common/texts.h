@@ -13,8 +13,8 @@ enum class Language { English, German };
 // The language in which all is said; at first that of the system.
 extern Language language;
 
-// Whether the system speaks German: natively by the first of LC_ALL, LC_MESSAGES and LANG that is set, on Windows by the
-// language of its menus.
+// Whether the system speaks German: natively by the first of LC_ALL, LC_MESSAGES and LANG that is set, on Windows by
+// the language of its menus.
 Language SystemLanguage();
 
 // Whether both texts say something and hold the same placeholders, "%1" to "%9".

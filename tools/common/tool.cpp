@@ -40,8 +40,8 @@ std::optional<Language> LanguageNamed(const std::string& name) {
 std::string ToUtf8(std::wstring_view text) {
   const int size = static_cast<int>(text.size());
   std::string utf8(text.size() * 3, '\0');
-  utf8.resize(static_cast<std::size_t>(::WideCharToMultiByte(
-      CP_UTF8, 0, text.data(), size, utf8.data(), static_cast<int>(utf8.size()), nullptr, nullptr)));
+  utf8.resize(static_cast<std::size_t>(::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, utf8.data(),
+                                                             static_cast<int>(utf8.size()), nullptr, nullptr)));
   return utf8;
 }
 

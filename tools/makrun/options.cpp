@@ -73,12 +73,13 @@ Options ReadOptions(const std::vector<std::string>& arguments) {
   line.Flag("--press", options.press);
   line.Flag("--real-time", options.realTime);
   line.Flag("--trace", options.trace);
+  line.Flag("--list-verbs", options.listVerbs);
 
   const std::vector<std::string> macros = line.Read(arguments);
   options.help = line.Help();
   if (macros.size() > 1) throw UsageError{Say(say::kOneMacro, {macros[0], macros[1]})};
   if (!macros.empty()) options.macro = macros[0];
-  if (options.macro.empty() && !options.help) throw UsageError{Say(say::kNoMacro)};
+  if (options.macro.empty() && !options.help && !options.listVerbs) throw UsageError{Say(say::kNoMacro)};
   return options;
 }
 

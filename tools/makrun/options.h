@@ -32,6 +32,7 @@ struct Options {
   std::int64_t lineLimit = 10'000'000;  // visited lines
   bool realTime = false;
   bool trace = false;
+  bool listVerbs = false;
   bool help = false;
 };
 

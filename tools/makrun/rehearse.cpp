@@ -7,7 +7,6 @@
 #include "common/tool.h"
 #include "desktop_file.h"
 #include "dialog_answers.h"
-#include "engine/line_watch.h"
 #include "engine/macro_file.h"
 #include "engine/run_loop.h"
 #include "engine/state.h"
@@ -17,6 +16,7 @@
 #include "frame/frmStatus.h"
 #include "frame/log.h"
 #include "frame/state.h"
+#include "line_watcher.h"
 #include "platform/messages.h"
 #include "platform/shell.h"
 #include "platform/simulated/desktop.h"
@@ -24,7 +24,6 @@
 #include "platform/system.h"
 #include "rehearsal.h"
 #include "texts.h"
-#include "trace.h"
 
 namespace makrun {
 namespace {
@@ -43,8 +42,6 @@ constexpr std::int32_t kGrace = 60;
 
 const std::string kSettings = kProgram + "\\QUMAEXP.INI";
 
-struct LineLimitPassed {};
-
 std::string MacroName(const Options& options) { return ProgramText(fs::path(options.macro).filename().string()); }
 
 void PrepareSystem(const Options& options) {
@@ -59,12 +56,32 @@ void PrepareSystem(const Options& options) {
   simulated::SetRealTime(options.realTime);
 }
 
+// What to do about an encoding that the program does not read; empty for the one that it does.
+std::string EncodingWarning(const std::string& path, const std::string& bytes) {
+  switch (tools::EncodingOf(bytes)) {
+    case tools::Encoding::CodePage:
+      return "";
+    case tools::Encoding::Utf8: {
+      const auto beyond = std::ranges::find_if(bytes, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+      return Say(say::kIsUtf8, {path, std::to_string(1 + std::count(bytes.begin(), beyond, '\n'))});
+    }
+    case tools::Encoding::Utf8WithMark:
+      return Say(say::kHasMark, {path});
+    case tools::Encoding::Utf16WithMark:
+    case tools::Encoding::Utf16:
+      return Say(say::kIsUtf16, {path});
+  }
+  return "";
+}
+
 // The files beside the macro stand in the program's folder, as copies: a rehearsal leaves the macro's folder as it is.
 void FillProgramFolder(const Options& options) {
   const fs::path macro(options.macro);
   const fs::path beside = macro.has_parent_path() ? macro.parent_path() : fs::path(".");
   const fs::path program(simulated::HostPath(kProgram));
   const std::string text = ReadFile(options.macro);
+  if (const std::string warning = EncodingWarning(options.macro, text); !warning.empty())
+    tools::Write(stderr, warning + "\n");
   std::error_code error;
   if (!fs::equivalent(beside, program, error)) {
     fs::remove(simulated::HostPath(kSettings), error);  // those of an earlier rehearsal on a kept drive
@@ -95,16 +112,6 @@ void LimitTime(std::int32_t seconds) {
   simulated::SetTimeLimit((std::int64_t{seconds} + kGrace) * 1000);
 }
 
-void Watch(const Options& options, Trace& trace, std::int64_t& visited) {
-  basMain::lineWatch.Visited = [&](std::int32_t index, const std::string& line) {
-    if (++visited > options.lineLimit) throw LineLimitPassed{};
-    if (options.trace) trace.Visited(index, line);
-  };
-  if (options.trace) {
-    basMain::lineWatch.Parsed = [&](const std::string& verb, const basMain::Arguments& a) { trace.Parsed(verb, a); };
-  }
-}
-
 // What the hot key does behind the choice of the macro.
 bool RunDirectly(const std::string& macro) {
   basMain::frame.MainWindow = simulated::Foreground();
@@ -131,13 +138,6 @@ Outcome Perform(const Options& options, const std::string& macro) {
   return good ? Outcome::Completed : Outcome::Failed;
 }
 
-void GiveUp(Rehearsal& rehearsal, const std::string& why) {
-  const auto index = static_cast<std::size_t>(run.CurrentLine);
-  const std::string line = index < run.MakroLines.size() ? run.MakroLines[index] : "";
-  rehearsal.outcome = Outcome::Stopped;
-  rehearsal.reason = Say(say::kGivenUp, {std::to_string(run.CurrentLine + 1), simulated::ToUtf8(line), why});
-}
-
 }  // namespace
 
 Rehearsal Rehearse(const Options& options) {
@@ -150,29 +150,32 @@ Rehearsal Rehearse(const Options& options) {
   const std::size_t older = rehearsal::LinesOf(basMain::LogFile()).size();
   DialogAnswers answers(options.answers);
   LimitTime(options.timeLimit);
-  Trace trace;
-  std::int64_t visited = 0;
-  Watch(options, trace, visited);
+  LineWatcher watcher(options);
 
   Rehearsal result;
+  const auto giveUp = [&](const std::string& why) {
+    result.outcome = Outcome::Stopped;
+    watcher.GiveUp(why);
+  };
   try {
     result.outcome = Perform(options, MacroName(options));
-    if (result.outcome == Outcome::Failed) result.reason = simulated::ToUtf8(run.LastError);
-    if (visited == 0) {
+    // A fault of the run loop itself leaves a text that belongs to no line.
+    if (result.outcome == Outcome::Failed && !run.RunFailed) result.notes.push_back(simulated::ToUtf8(run.LastError));
+    if (!watcher.VisitedAny()) {
       result.outcome = simulated::MessageBoxes().empty() ? Outcome::Stopped : Outcome::Failed;
-      result.reason = Say(say::kNoRun);
+      result.notes.push_back(Say(say::kNoRun));
     }
   } catch (const simulated::TimeLimitPassed&) {
-    GiveUp(result, Say(say::kGoesOnWaiting, {std::to_string(options.timeLimit)}));
+    giveUp(Say(say::kGoesOnWaiting, {std::to_string(options.timeLimit)}));
   } catch (const LineLimitPassed&) {
-    GiveUp(result, Say(say::kLineLimit, {std::to_string(options.lineLimit)}));
+    giveUp(Say(say::kLineLimit, {std::to_string(options.lineLimit)}));
   } catch (const DialogStays& dialog) {
-    GiveUp(result, Say(say::kDialogStays, {dialog.form}));
+    giveUp(Say(say::kDialogStays, {dialog.form}));
   }
-  trace.Finish();
   auto lines = rehearsal::LinesOf(basMain::LogFile());
   result.log.assign(lines.begin() + static_cast<std::ptrdiff_t>(std::min(older, lines.size())), lines.end());
-  for (const auto& box : simulated::MessageBoxes()) result.notes.push_back(Say(say::kMessageBox, {simulated::ToUtf8(box.text)}));
+  for (const auto& box : simulated::MessageBoxes())
+    result.notes.push_back(Say(say::kMessageBox, {simulated::ToUtf8(box.text)}));
   for (const Answer& answer : answers.Left())
     result.notes.push_back(Say(say::kNotAskedFor, {answer.form, answer.control}));
   return result;

@@ -1,4 +1,5 @@
-// One rehearsal: sets the simulated desktop up, runs the macro on it, and tells how that ended.
+// One rehearsal: sets the simulated desktop up, runs the macro on it, and tells how that ended. Trace and reports of
+// single lines come on standard error meanwhile.
 #pragma once
 
 #include <string>
@@ -13,8 +14,7 @@ enum class Outcome { Completed, Failed, Stopped };
 struct Rehearsal {
   Outcome outcome = Outcome::Completed;
   std::vector<std::string> log;    // code page 1252
-  std::string reason;              // why it failed or was given up; empty otherwise; this and the notes in UTF-8
-  std::vector<std::string> notes;  // what the user would have seen, and answers that nobody asked for
+  std::vector<std::string> notes;  // what the user would have seen, and answers that nobody asked for; in UTF-8
 };
 
 // Faults: FileError.

@@ -33,12 +33,91 @@ constexpr Text kNotAskedFor(u8"the answer %1.%2 was not asked for", u8"nach der 
 // The end of a run.
 constexpr Text kMessageBox(u8"message box: %1", u8"Meldung: %1");
 constexpr Text kNoRun(u8"the press started no run", u8"der Tastendruck hat keinen Lauf gestartet");
-constexpr Text kGivenUp(u8"given up: line %1 (%2) %3", u8"aufgegeben: Zeile %1 (%2) %3");
+constexpr Text kGivenUp(u8"given up: %1", u8"aufgegeben: %1");
 constexpr Text kGoesOnWaiting(u8"went on waiting although the user had cancelled after %1 seconds",
                               u8"wartet weiter, obwohl der Benutzer nach %1 Sekunden abgebrochen hat");
 constexpr Text kLineLimit(u8"passed the limit of %1 lines", u8"überschreitet die Grenze von %1 Zeilen");
 constexpr Text kDialogStays(u8"shows %1, which stays open whatever is answered",
                             u8"zeigt %1, das offen bleibt, was auch geantwortet wird");
+
+// The file of the macro.
+constexpr Text kIsUtf8(
+    u8"%1:%2: warning: the file is in UTF-8, and the program reads each byte as a character of "
+    u8"Windows-1252. Save it in the encoding \"ANSI\" (Windows-1252).",
+    u8"%1:%2: Warnung: Die Datei ist in UTF-8, und das Programm liest jedes Byte als ein Zeichen von "
+    u8"Windows-1252. Speichern Sie sie in der Codierung \"ANSI\" (Windows-1252).");
+constexpr Text kHasMark(
+    u8"%1:1: warning: the file begins with a byte order mark, which the program takes for text of "
+    u8"the first line. Save it in the encoding \"ANSI\" (Windows-1252), without a mark.",
+    u8"%1:1: Warnung: Die Datei beginnt mit einer Bytereihenfolge-Marke, die das Programm für Text "
+    u8"der ersten Zeile hält. Speichern Sie sie in der Codierung \"ANSI\" (Windows-1252), ohne Marke.");
+constexpr Text kIsUtf16(
+    u8"%1:1: warning: the file is in UTF-16, of which the program understands no line. Save it in the "
+    u8"encoding \"ANSI\" (Windows-1252).",
+    u8"%1:1: Warnung: Die Datei ist in UTF-16, wovon das Programm keine Zeile versteht. Speichern Sie "
+    u8"sie in der Codierung \"ANSI\" (Windows-1252).");
+
+// A line of the macro.
+constexpr Text kPassedOver(u8"(passed over)", u8"(übergangen)");
+constexpr Text kCancelled(u8"cancelled by the user", u8"vom Benutzer abgebrochen");
+constexpr Text kNoText(u8"failed without a text of its own", u8"ohne eigenen Text fehlgeschlagen");
+constexpr Text kLine(u8"line:        %1", u8"Zeile:      %1");
+constexpr Text kCarriedOut(u8"carried out: %1", u8"ausgeführt: %1");
+constexpr Text kWhy(u8"because:     %1", u8"weil:       %1");
+
+// What a line looked for and did not find.
+constexpr Text kNone(u8"none", u8"keine");
+constexpr Text kNoWindow(u8"there is no window with the title \"%1\"; there are: %2",
+                         u8"es gibt kein Fenster mit dem Titel \"%1\"; es gibt: %2");
+constexpr Text kNoWindowWith(u8"there is no window with \"%1\" in its title; there are: %2",
+                             u8"es gibt kein Fenster mit \"%1\" im Titel; es gibt: %2");
+constexpr Text kNoControl(u8"the window %1 has no control %2", u8"das Fenster %1 hat kein Steuerelement %2");
+constexpr Text kWithId(u8"with the id %1", u8"mit der Nummer %1");
+constexpr Text kDirectly(u8"directly in it (no class is given)",
+                         u8"unmittelbar in ihm (es ist keine Klasse angegeben)");
+constexpr Text kOfClass(u8"of the class \"%1\"", u8"der Klasse \"%1\"");
+constexpr Text kWithText(u8"with the text \"%1\"", u8"mit dem Text \"%1\"");
+constexpr Text kControl(u8"id %1 of the class \"%2\" with the text \"%3\"",
+                        u8"Nummer %1 der Klasse \"%2\" mit dem Text \"%3\"");
+constexpr Text kInstead(u8"; it has: %1", u8"; es hat: %1");
+constexpr Text kNoBoxText(u8"the window %1 shows no text with \"%2\"", u8"das Fenster %1 zeigt keinen Text mit \"%2\"");
+constexpr Text kNoFile(u8"there is no file \"%1\"", u8"es gibt keine Datei \"%1\"");
+constexpr Text kNoFileOfKind(u8"there is no file of the folder and extension of \"%1\"",
+                             u8"es gibt keine Datei in Ordner und mit Endung von \"%1\"");
+constexpr Text kFolderNoFile(u8"\"%1\" is a folder and not a file", u8"\"%1\" ist ein Ordner und keine Datei");
+constexpr Text kNoClipboard(u8"no text came to the clipboard", u8"in die Zwischenablage kam kein Text");
+constexpr Text kUndeclared(u8"\"%1\" is no declared variable: DIM %1 belongs in front",
+                           u8"\"%1\" ist keine deklarierte Variable: Davor gehört DIM %1");
+constexpr Text kNoDo(
+    u8"line %1 ends a loop that no DO has begun, and the run stays at the first line",
+    u8"Zeile %1 beendet eine Schleife, die kein DO begonnen hat, und der Lauf bleibt in der ersten Zeile");
+constexpr Text kBlanks(u8"no blanks may stand round \"%1\"", u8"um \"%1\" dürfen keine Leerzeichen stehen");
+constexpr Text kBrackets(u8"a command is written %1=a,b,c; parentheses belong to an assignment",
+                         u8"ein Befehl schreibt sich %1=a,b,c; Klammern gehören zu einer Zuweisung");
+constexpr Text kOpenQuote(u8"a single quote is not closed, so that the arguments from there on are empty",
+                          u8"ein einfaches Anführungszeichen ist nicht geschlossen, so dass die Argumente ab dort leer "
+                          u8"sind");
+constexpr Text kNoNumber(u8"\"%1\" is no number of milliseconds", u8"\"%1\" ist keine Zahl von Millisekunden");
+constexpr Text kNoMouseButton(u8"\"%1\" is neither LEFT nor RIGHT", u8"\"%1\" ist weder LEFT noch RIGHT");
+constexpr Text kBlockRefused(u8"the system refused to block the input",
+                             u8"das System hat die Sperre der Eingabe verweigert");
+constexpr Text kNoClassOrText(u8"neither a class nor a text is given", u8"weder Klasse noch Text ist angegeben");
+constexpr Text kNoMessage(u8"no text is given", u8"es ist kein Text angegeben");
+constexpr Text kNoClass(u8"no class is given, and a control is found by its text only together with its class",
+                        u8"es ist keine Klasse angegeben, und ein Steuerelement wird nach seinem Text nur zusammen mit "
+                        u8"seiner Klasse gefunden");
+constexpr Text kNotChecked(u8"the box is not checked", u8"das Kästchen ist nicht gesetzt");
+constexpr Text kEmptyList(u8"the list is empty", u8"die Liste ist leer");
+constexpr Text kNoWindowNamed(u8"no window is given; the arguments of %1 are: %2",
+                              u8"es ist kein Fenster angegeben; die Argumente von %1 sind: %2");
+
+// The table of verbs.
+constexpr Text kAction(u8"action", u8"Aktion");
+constexpr Text kForcedAction(u8"action, never fails", u8"Aktion, schlägt nie fehl");
+constexpr Text kCondition(u8"condition", u8"Bedingung");
+constexpr Text kValue(u8"value", u8"Wert");
+constexpr Text kForcedValue(u8"value, always counts as done", u8"Wert, gilt immer als getan");
+constexpr Text kBranch(u8"branch", u8"Verzweigung");
 
 constexpr Text kUsage(
     u8"usage: makrun [options] MACRO.MAK\n"
@@ -60,6 +139,7 @@ constexpr Text kUsage(
     u8"  --line-limit N          visited lines after which the rehearsal is given up; default 10000000\n"
     u8"  --real-time             sleep in real time\n"
     u8"  --trace                 each visited line, its verb and arguments, on standard error\n"
+    u8"  --list-verbs            the verbs of the language with their arguments, and nothing else\n"
     u8"  --lang de|en            language of what makrun says; default that of the system\n"
     u8"  --help                  this text\n"
     u8"\n"
@@ -84,6 +164,7 @@ constexpr Text kUsage(
     u8"  --line-limit N          besuchte Zeilen, nach denen die Probe aufgegeben wird; sonst 10000000\n"
     u8"  --real-time             in wirklicher Zeit warten\n"
     u8"  --trace                 jede besuchte Zeile, ihr Verb und ihre Argumente auf der Fehlerausgabe\n"
+    u8"  --list-verbs            die Verben der Sprache mit ihren Argumenten, und nichts sonst\n"
     u8"  --lang de|en            Sprache, in der makrun spricht; sonst die des Systems\n"
     u8"  --help                  dieser Text\n"
     u8"\n"

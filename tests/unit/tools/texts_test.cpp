@@ -29,7 +29,9 @@ TEST_F(TextsTest, AreSaidInTheLanguageThatIsSet) {
   tools::language = Language::English;
   EXPECT_EQ(Say(kGreeting, {"Ada", "Köln"}), "Good day, Ada, from Köln");
   tools::language = Language::German;
-  EXPECT_EQ(Say(kGreeting, {"Ada", "Ulm"}), "Aus Ulm: Guten Tag, Ada, sch\xC3\xB6ne Gr\xC3\xBC\xC3\x9F" "e");
+  EXPECT_EQ(Say(kGreeting, {"Ada", "Ulm"}),
+            "Aus Ulm: Guten Tag, Ada, sch\xC3\xB6ne Gr\xC3\xBC\xC3\x9F"
+            "e");
 }
 
 TEST_F(TextsTest, PlaceholderInAValueStays) {
@@ -60,8 +62,7 @@ class SystemLanguageTest : public testing::Test {
   ~SystemLanguageTest() override {
     for (int i = 0; i < 3; ++i) {
       if (before_[i]) ::setenv(kNames[i], before_[i]->c_str(), 1);
-      else
-        ::unsetenv(kNames[i]);
+      else ::unsetenv(kNames[i]);
     }
   }
 

@@ -83,7 +83,8 @@ TEST_F(CommandLineTest, ToolEndsWithTheStatusOfWhatItRaises) {
   using Arguments = std::vector<std::string>;
   EXPECT_EQ(run([](const Arguments& given) { return given == Arguments{"x"} ? tools::kGivenUp : tools::kFine; }),
             std::pair(2, std::string()));
-  EXPECT_EQ(run([](const Arguments&) -> int { throw UsageError{"why"}; }), std::pair(64, std::string("tool: why\nusage\n")));
+  EXPECT_EQ(run([](const Arguments&) -> int { throw UsageError{"why"}; }),
+            std::pair(64, std::string("tool: why\nusage\n")));
   EXPECT_EQ(run([](const Arguments&) -> int { throw tools::FileError{"where"}; }),
             std::pair(66, std::string("tool: where\n")));
   EXPECT_EQ(run([](const Arguments&) -> int { throw std::runtime_error("host"); }),
