@@ -504,7 +504,7 @@ class MakrunTest(MakrunCase):
             ("window main TeRu", 1, "the window's title in double quotes"),
             ('window main "a" "b"', 1, 'the end of the line instead of "b"'),
             (window + window, 2, "a name that no other window has"),
-            ("fenster", 1, "window, dialog, box, file, folder, registry, environment, missing-program, refuses-"),
+            ("fenster", 1, "window, dialog, box, file, folder, registry, environment, missing-program, refuses-blockinput or after"),
             (window + "  farbe rot", 2, "a property of the window"),
             (window + "  at 1 2 3", 2, "left, top, width and height"),
             (window + "  at 1 2 3 x", 2, "left, top, width and height"),
@@ -586,6 +586,9 @@ class MakrunTest(MakrunCase):
                 self.assertEqual(self.makrun(*arguments, self.macro("MSG=a"), status=66), [])
                 self.assertTrue(self.errors.startswith(f"makrun: {arguments[1]}:{line}: expected "), self.errors)
                 self.assertIn(expected, self.errors)
+                self.makrun("--lang", "de", *arguments, self.macro("MSG=a"), status=66)
+                self.assertTrue(self.errors.startswith(f"makrun: {arguments[1]}:{line}: erwartet: "), self.errors)
+                self.assertNotIn(expected, self.errors)
 
     def test_a_target_that_is_not_there_is_a_mistake_with_its_line(self):
         window = ('window main "TeRu"\n'

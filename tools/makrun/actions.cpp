@@ -5,6 +5,7 @@
 #include <map>
 
 #include "common/tool.h"
+#include "desktop_texts.h"
 #include "files.h"
 #include "platform/simulated/desktop.h"
 #include "runtime/code_page.h"
@@ -12,6 +13,9 @@
 
 namespace makrun {
 namespace {
+
+using runtime::ToUtf8;
+using tools::Say;
 
 namespace simulated = platform::simulated;
 
@@ -35,7 +39,7 @@ std::string LinesText(const std::vector<std::string>& lines) {
 }
 
 std::vector<Action> ActionReader::Read(const Statement& statement) const {
-  if (statement.inner.empty()) RaiseMistake(path_, statement.line, "indented actions below this line");
+  if (statement.inner.empty()) RaiseMistake(path_, statement.line, Say(say::kActionsBelow));
   std::vector<Action> actions;
   for (const Statement& inner : statement.inner) {
     Arguments arguments(path_, inner);
@@ -65,9 +69,9 @@ Action ActionReader::ReadAction(const Statement& statement, Arguments& arguments
   if (reading == kSimple.end()) {
     std::string known;
     for (const auto& [name, ignored] : kSimple) known += name + ", ";
-    arguments.Mistake("one of the actions " + known + "after, when instead of \"" + word + "\"");
+    arguments.Mistake(Say(say::kOneAction, {known, ToUtf8(word)}));
   }
-  if (!statement.inner.empty()) RaiseMistake(path_, statement.inner[0].line, "nothing below \"" + word + "\"");
+  if (!statement.inner.empty()) RaiseMistake(path_, statement.inner[0].line, Say(say::kNothingBelow, {ToUtf8(word)}));
   return (this->*reading->second)(arguments);
 }
 
@@ -92,7 +96,7 @@ Action ActionReader::Hide(Arguments& arguments) const {
 
 Action ActionReader::SetText(Arguments& arguments) const {
   const WindowPlan& target = ReadTarget(arguments);
-  const std::string expected = "the new text in double quotes";
+  const std::string expected = Say(say::kNewText);
   std::string text = arguments.Text(expected);
   for (const std::string& line : arguments.Texts(expected)) text += "\r\n" + line;
   return OnWindow(target,
@@ -101,7 +105,7 @@ Action ActionReader::SetText(Arguments& arguments) const {
 
 Action ActionReader::SetItems(Arguments& arguments) const {
   const WindowPlan& target = ReadTarget(arguments);
-  const auto items = arguments.Texts("the entries in double quotes");
+  const auto items = arguments.Texts(Say(say::kEntries));
   return OnWindow(target, [=](simulated::Window& window) {
     window.entries = items;
     SelectEntry(window, -1);
@@ -110,7 +114,7 @@ Action ActionReader::SetItems(Arguments& arguments) const {
 
 Action ActionReader::Select(Arguments& arguments) const {
   const WindowPlan& target = ReadTarget(arguments);
-  const std::int32_t index = arguments.Number("the number of an entry, from 0");
+  const std::int32_t index = arguments.Number(Say(say::kEntryNumber));
   return OnWindow(target, [=](simulated::Window& window) { SelectEntry(window, index); });
 }
 
@@ -124,7 +128,7 @@ Action ActionReader::Uncheck(Arguments& arguments) const {
 
 Action ActionReader::AddRow(Arguments& arguments) const {
   const WindowPlan& target = ReadTarget(arguments);
-  const auto cells = arguments.Texts("the row's cells in double quotes");
+  const auto cells = arguments.Texts(Say(say::kCells));
   return OnWindow(target, [=](simulated::Window& window) { window.rows.push_back({cells, 0}); });
 }
 
@@ -142,19 +146,19 @@ Action ActionReader::SelectRows(Arguments& arguments) const {
 }
 
 Action ActionReader::Clipboard(Arguments& arguments) const {
-  const FilledText text = Filled(arguments, LinesText(arguments.Texts("the lines in double quotes")));
+  const FilledText text = Filled(arguments, LinesText(arguments.Texts(Say(say::kLines))));
   return [=] { simulated::Clipboard() = text.Now(); };
 }
 
 Action ActionReader::Write(Arguments& arguments) const {
-  const FilledText path = Filled(arguments, arguments.Text("the file's path in double quotes"));
-  const FilledText text = Filled(arguments, LinesText(arguments.Texts("the file's lines in double quotes")));
+  const FilledText path = Filled(arguments, arguments.Text(Say(say::kFilePath)));
+  const FilledText text = Filled(arguments, LinesText(arguments.Texts(Say(say::kFileLines))));
   return [=] { PutSimulatedFile(path.Now(), text.Now()); };
 }
 
 Action ActionReader::Append(Arguments& arguments) const {
-  const FilledText path = Filled(arguments, arguments.Text("the file's path in double quotes"));
-  const FilledText text = Filled(arguments, LinesText(arguments.Texts("the file's lines in double quotes")));
+  const FilledText path = Filled(arguments, arguments.Text(Say(say::kFilePath)));
+  const FilledText text = Filled(arguments, LinesText(arguments.Texts(Say(say::kFileLines))));
   return [=] {
     const std::string file = path.Now();
     PutSimulatedFile(file, simulated::GetFile(file) + text.Now());
@@ -162,8 +166,8 @@ Action ActionReader::Append(Arguments& arguments) const {
 }
 
 Action ActionReader::Grow(Arguments& arguments) const {
-  const FilledText path = Filled(arguments, arguments.Text("the file's path in double quotes"));
-  const std::int32_t size = arguments.Number("the bytes by which the file grows", 0);
+  const FilledText path = Filled(arguments, arguments.Text(Say(say::kFilePath)));
+  const std::int32_t size = arguments.Number(Say(say::kGrowth), 0);
   return [=] {
     const std::string file = path.Now();
     PutSimulatedFile(file, simulated::GetFile(file) + std::string(static_cast<std::size_t>(size), 'x'));
@@ -172,41 +176,40 @@ Action ActionReader::Grow(Arguments& arguments) const {
 
 // The file's bytes are read at once, so that a file that is not there is a mistake here.
 Action ActionReader::Copy(Arguments& arguments) const {
-  const std::string expected = "the name of a file, from this file's folder on, in double quotes";
+  const std::string expected = Say(say::kFileName);
   const std::string& name = arguments.Text(expected);
   std::string bytes;
   try {
-    bytes = tools::ReadFile(path_.substr(0, path_.find_last_of("/\\") + 1) + runtime::ToUtf8(name));
+    bytes = tools::ReadFile(path_.substr(0, path_.find_last_of("/\\") + 1) + ToUtf8(name));
   } catch (const tools::FileError& error) {
     arguments.Mistake(expected + "; " + error.text);
   }
-  const FilledText path = Filled(arguments, arguments.Text("the new file's path in double quotes"));
+  const FilledText path = Filled(arguments, arguments.Text(Say(say::kNewFilePath)));
   if (arguments.More()) {
     const auto size = static_cast<std::int32_t>(bytes.size());
-    bytes.resize(
-        static_cast<std::size_t>(arguments.Number("the bytes that are copied, of " + std::to_string(size), 0, size)));
+    bytes.resize(static_cast<std::size_t>(arguments.Number(Say(say::kCopiedBytes, {std::to_string(size)}), 0, size)));
   }
   return [=] { PutSimulatedFile(path.Now(), bytes); };
 }
 
 Action ActionReader::ReadDelay(const Statement& statement, Arguments& arguments) const {
-  const std::int32_t milliseconds = arguments.Number("milliseconds", 0);
+  const std::int32_t milliseconds = arguments.Number(Say(say::kMilliseconds), 0);
   return [milliseconds, actions = Read(statement)] { simulated::Schedule(milliseconds, [=] { Carry(actions); }); };
 }
 
 Action ActionReader::ReadCondition(const Statement& statement, Arguments& arguments) const {
   const WindowPlan& target = ReadTarget(arguments);
-  const std::string expected = "selected and a number, checked, unchecked, or text and texts";
+  const std::string expected = Say(say::kStates);
   const std::string& state = arguments.Name(expected);
   std::function<bool(const simulated::Window&)> holds;
   if (state == "selected") {
-    const std::int32_t index = arguments.Number("the number of an entry, from 0");
+    const std::int32_t index = arguments.Number(Say(say::kEntryNumber));
     holds = [=](const simulated::Window& window) { return window.selection == index; };
   } else if (state == "checked" || state == "unchecked") {
     holds = [check = state == "checked" ? 1 : 0](const simulated::Window& window) { return window.check == check; };
   } else if (state == "text") {
-    std::vector<std::string> texts = {arguments.Text("a text in double quotes")};
-    for (const std::string& text : arguments.Texts("another text in double quotes")) texts.push_back(text);
+    std::vector<std::string> texts = {arguments.Text(Say(say::kSomeText))};
+    for (const std::string& text : arguments.Texts(Say(say::kOtherText))) texts.push_back(text);
     holds = [=](const simulated::Window& window) { return std::ranges::count(texts, window.text) != 0; };
   } else {
     arguments.Mistake(expected);
@@ -217,17 +220,17 @@ Action ActionReader::ReadCondition(const Statement& statement, Arguments& argume
 }
 
 std::string ActionReader::KnownName(Arguments& arguments) const {
-  const std::string expected = "the name of a window of this file";
+  const std::string expected = Say(say::kWindowName);
   const std::string& name = arguments.Name(expected);
-  if (!plans_.contains(name)) arguments.Mistake(expected + " instead of \"" + name + "\"");
+  if (!plans_.contains(name)) arguments.Mistake(Say(say::kInsteadOf, {expected, ToUtf8(name)}));
   return name;
 }
 
 const WindowPlan& ActionReader::ReadTarget(Arguments& arguments) const {
-  const std::string expected = "the name of a window of this file, or NAME.ID for a control of it";
+  const std::string expected = Say(say::kTargetName);
   const std::string& text = arguments.Name(expected);
   const WindowPlan* const target = Resolve(text);
-  if (target == nullptr) arguments.Mistake(expected + ", instead of \"" + text + "\"");
+  if (target == nullptr) arguments.Mistake(Say(say::kInsteadOfTarget, {expected, ToUtf8(text)}));
   return *target;
 }
 
@@ -248,8 +251,7 @@ FilledText ActionReader::Filled(const Arguments& arguments, const std::string& t
   try {
     return {text, [this](const std::string& target) { return Resolve(target); }};
   } catch (const FilledText::WrongReference& wrong) {
-    arguments.Mistake("{NAME.ID} or {NAME.ID/COLUMN} for what a window of this file shows, instead of \"{" +
-                      wrong.text + "}\"");
+    arguments.Mistake(Say(say::kReference, {ToUtf8(wrong.text)}));
   }
 }
 

@@ -2,6 +2,9 @@
 
 #include <charconv>
 
+#include "desktop_texts.h"
+#include "runtime/code_page.h"
+
 namespace makrun {
 
 void Arguments::Mistake(const std::string& expected) const { RaiseMistake(path_, statement_.line, expected); }
@@ -32,7 +35,7 @@ std::vector<std::string> Arguments::Texts(const std::string& expected) {
 }
 
 void Arguments::End() const {
-  if (More()) Mistake("the end of the line instead of \"" + statement_.words[next_].text + "\"");
+  if (More()) Mistake(tools::Say(say::kEndOfLine, {runtime::ToUtf8(statement_.words[next_].text)}));
 }
 
 }  // namespace makrun

@@ -9,15 +9,20 @@
 #include "arguments.h"
 #include "common/tool.h"
 #include "desktop_text.h"
+#include "desktop_texts.h"
 #include "files.h"
 #include "platform/messages.h"
 #include "platform/registry.h"
 #include "platform/simulated/desktop.h"
 #include "platform/simulated/host_paths.h"
+#include "runtime/code_page.h"
 #include "scene.h"
 
 namespace makrun {
 namespace {
+
+using runtime::ToUtf8;
+using tools::Say;
 
 namespace simulated = platform::simulated;
 using simulated::Message;
@@ -43,7 +48,7 @@ class Loader {
     try {
       operation();
     } catch (const tools::FileError& error) {
-      arguments.Mistake("a path of a drive that there is; " + error.text);
+      arguments.Mistake(Say(say::kDrivePath) + "; " + error.text);
     }
   }
 
@@ -61,7 +66,7 @@ class Loader {
       const std::string name = ReadName(word, arguments);
       WindowPlan& plan = scene.plans[name];
       plan.window.className = word == "window" ? "ThunderRT6FormDC" : "#32770";
-      plan.window.text = arguments.Text("the window's title in double quotes");
+      plan.window.text = arguments.Text(Say(say::kTitle));
       arguments.End();
       ReadWindow(statement, plan, true);
       if (word == "window") open_.push_back(name);
@@ -77,37 +82,32 @@ class Loader {
     }
     ExpectNothingBelow(statement);
     if (word == "file") {
-      const std::string& path = arguments.Text("the file's path in double quotes");
-      PutStanding(arguments, [&, text = LinesText(arguments.Texts("the file's lines in double quotes"))] {
-        PutSimulatedFile(path, text);
-      });
-    } else if (word == "folder") {
+      const std::string& path = arguments.Text(Say(say::kFilePath));
       PutStanding(arguments,
-                  [&, path = arguments.Text("the folder's path in double quotes")] { MakeSimulatedFolder(path); });
+                  [&, text = LinesText(arguments.Texts(Say(say::kFileLines)))] { PutSimulatedFile(path, text); });
+    } else if (word == "folder") {
+      PutStanding(arguments, [&, path = arguments.Text(Say(say::kFolderPath))] { MakeSimulatedFolder(path); });
     } else if (word == "registry") {
-      const std::string& key = arguments.Text("a key of the registry in double quotes");
-      const std::string& value = arguments.Text("the value's name in double quotes");
-      WriteRegistry(key, value, arguments.Text("the value's text in double quotes"));
+      const std::string& key = arguments.Text(Say(say::kRegistryKey));
+      const std::string& value = arguments.Text(Say(say::kValueName));
+      WriteRegistry(key, value, arguments.Text(Say(say::kValueText)));
     } else if (word == "environment") {
-      const std::string& name = arguments.Text("the variable's name in double quotes");
-      simulated::SetEnvironmentVariable(name, arguments.Text("the variable's text in double quotes"));
+      const std::string& name = arguments.Text(Say(say::kVariableName));
+      simulated::SetEnvironmentVariable(name, arguments.Text(Say(say::kVariableText)));
     } else if (word == "missing-program") {
-      simulated::SetMissingProgram(arguments.Text("the command that starts no program, in double quotes"));
+      simulated::SetMissingProgram(arguments.Text(Say(say::kMissingProgram)));
     } else if (word == "refuses-blockinput") {
       simulated::Fail("BlockInput");
     } else {
-      arguments.Mistake(
-          "window, dialog, box, file, folder, registry, environment, missing-program, refuses-blockinput or after "
-          "instead of \"" +
-          word + "\"");
+      arguments.Mistake(Say(say::kTopLevel, {ToUtf8(word)}));
     }
     arguments.End();
   }
 
   // The name of a new window.
   static const std::string& ReadName(const std::string& word, Arguments& arguments) {
-    const std::string& name = arguments.Name("a name and a text behind " + word);
-    if (scene.plans.contains(name)) arguments.Mistake("a name that no other window has");
+    const std::string& name = arguments.Name(Say(say::kNameBehind, {ToUtf8(word)}));
+    if (scene.plans.contains(name)) arguments.Mistake(Say(say::kNewName));
     return name;
   }
 
@@ -115,14 +115,14 @@ class Loader {
   void ReadBox(const Statement& statement, Arguments& arguments) {
     WindowPlan& plan = scene.plans[ReadName("box", arguments)];
     plan.window.className = "#32770";
-    plan.window.text = arguments.Text("the box's title in double quotes");
+    plan.window.text = arguments.Text(Say(say::kBoxTitle));
     plan.closesOnCommand = true;
     WindowPlan& text = plan.controls.emplace_back();
     text.window.className = "Static";
-    text.window.text = arguments.Text("the box's text in double quotes");
+    text.window.text = arguments.Text(Say(say::kBoxText));
     text.window.id = 65535;
     const std::map<std::string, std::int32_t> ids = {{"OK", 1}, {"Abbrechen", 2}, {"Ja", 6}, {"Nein", 7}};
-    for (const std::string& caption : arguments.Texts("the captions of the buttons in double quotes")) {
+    for (const std::string& caption : arguments.Texts(Say(say::kCaptions))) {
       const auto id = ids.find(caption);
       const std::int32_t other = 100 + static_cast<std::int32_t>(plan.controls.size());
       WindowPlan& button = plan.controls.emplace_back();
@@ -152,40 +152,41 @@ class Loader {
 
   void ExpectNothingBelow(const Statement& statement) const {
     if (!statement.inner.empty())
-      RaiseMistake(path_, statement.inner[0].line, "nothing below \"" + statement.words[0].text + "\"");
+      RaiseMistake(path_, statement.inner[0].line, Say(say::kNothingBelow, {ToUtf8(statement.words[0].text)}));
   }
 
   void ReadControl(const Statement& statement, Arguments& arguments, WindowPlan& parent) {
     WindowPlan& plan = parent.controls.emplace_back();
-    plan.window.className = arguments.Name("a class, an id and a text");
-    plan.window.id = arguments.Number("the control's id, a number");
-    if (arguments.More()) plan.window.text = arguments.Text("the control's text in double quotes");
+    plan.window.className = arguments.Name(Say(say::kControlWords));
+    plan.window.id = arguments.Number(Say(say::kControlId));
+    if (arguments.More()) plan.window.text = arguments.Text(Say(say::kControlText));
     arguments.End();
     ReadWindow(statement, plan, false);
   }
 
   void ReadProperty(const std::string& word, Arguments& arguments, WindowPlan& plan, bool topLevel) {
     simulated::Window& window = plan.window;
-    if (word == "class" && topLevel) window.className = arguments.Name("a class");
-    else if (word == "id" && topLevel) window.id = arguments.Number("an id, a number");
-    else if (word == "process" && topLevel) window.process = ProcessOf(arguments.Name("the name of a process"));
+    if (word == "class" && topLevel) window.className = arguments.Name(Say(say::kClassName));
+    else if (word == "id" && topLevel) window.id = arguments.Number(Say(say::kWindowId));
+    else if (word == "process" && topLevel) window.process = ProcessOf(arguments.Name(Say(say::kProcessName)));
     else if (word == "at") ReadPlace(arguments, window.rectangle);
     else if (word == "hidden") window.visible = false;
     else if (word == "disabled") window.enabled = false;
     else if (word == "checked") window.check = 1;
     else if (word == "style") window.style = StyleOf(arguments);
-    else if (word == "items") window.entries = arguments.Texts("the entries in double quotes");
-    else if (word == "selected") window.selection = arguments.Number("the number of an entry, from 0", 0);
-    else if (word == "row") window.rows.push_back({arguments.Texts("the row's cells in double quotes"), 0});
-    else if (word == "marked") window.selectionMark = arguments.Number("the number of a row, from 0", 0);
+    else if (word == "items") window.entries = arguments.Texts(Say(say::kEntries));
+    else if (word == "selected") window.selection = arguments.Number(Say(say::kEntryNumber), 0);
+    else if (word == "row") window.rows.push_back({arguments.Texts(Say(say::kCells)), 0});
+    else if (word == "marked") window.selectionMark = arguments.Number(Say(say::kRowNumber), 0);
     else if (word == "by-parameter") window.rowFromParameter = true;
     else if (word == "refuses-text") plan.refusesText = true;
-    else if (word == "closes-after" && plan.closesOnCommand) plan.closesAfter = arguments.Number("milliseconds", 0);
-    else arguments.Mistake("a property of the window, a control or a reaction instead of \"" + word + "\"");
+    else if (word == "closes-after" && plan.closesOnCommand)
+      plan.closesAfter = arguments.Number(Say(say::kMilliseconds), 0);
+    else arguments.Mistake(Say(say::kProperty, {ToUtf8(word)}));
   }
 
   static void ReadPlace(Arguments& arguments, platform::Rect& place) {
-    const std::string expected = "left, top, width and height in pixels";
+    const std::string expected = Say(say::kPlace);
     constexpr std::int32_t kFarthest = 32767;
     place.left = arguments.Number(expected, -kFarthest, kFarthest);
     place.top = arguments.Number(expected, -kFarthest, kFarthest);
@@ -198,7 +199,7 @@ class Loader {
                                                          {"option", simulated::BS_AUTORADIOBUTTON},
                                                          {"frame", simulated::BS_GROUPBOX},
                                                          {"single-selection", simulated::LVS_SINGLESEL}};
-    const std::string expected = "checkbox, option, frame or single-selection";
+    const std::string expected = Say(say::kStyles);
     const auto style = styles.find(arguments.Name(expected));
     if (style == styles.end()) arguments.Mistake(expected);
     return style->second;
@@ -225,8 +226,8 @@ class Loader {
   }
 
   void ReadFolderControl(const Statement& statement, Arguments& arguments, WindowPlan& plan) {
-    plan.folderControl = FindControl(plan, arguments.Number("the id of a child"));
-    if (plan.folderControl == nullptr) arguments.Mistake("the id of a child");
+    plan.folderControl = FindControl(plan, arguments.Number(Say(say::kChildId)));
+    if (plan.folderControl == nullptr) arguments.Mistake(Say(say::kChildId));
     arguments.End();
     ExpectNothingBelow(statement);
   }
@@ -234,29 +235,28 @@ class Loader {
   static std::int32_t IdOf(const WindowPlan& plan) { return plan.window.id; }
 
   void ReadReaction(const Statement& statement, Arguments& arguments, WindowPlan& plan) {
-    const std::string expected = "command, notification, key, character, text or close";
+    const std::string expected = Say(say::kEvents);
     const std::string& event = arguments.Name(expected);
     Reaction reaction;
     if (event == "command" || event == "notification") {
-      const std::int32_t id = arguments.Number("the id of the command, a number");
-      const std::int32_t code =
-          event == "command" ? 0 : arguments.Number("the code of the notification, a number", 0, 32767);
+      const std::int32_t id = arguments.Number(Say(say::kCommandId));
+      const std::int32_t code = event == "command" ? 0 : arguments.Number(Say(say::kNotificationCode), 0, 32767);
       // A command can be that of a menu, but a notification comes from a child.
       if (event == "notification" && std::ranges::count(plan.controls, id, IdOf) == 0)
-        arguments.Mistake("the id of a child, which sends the notification to this window or control");
+        arguments.Mistake(Say(say::kSender));
       reaction.wanted = [=](const Message& message) {
         return message.number == platform::WM_COMMAND && message.wParam == code * 65536 + (id & 0xFFFF);
       };
     } else if (event == "key" || event == "character") {
       const std::uint32_t number = event == "key" ? platform::WM_KEYDOWN : platform::WM_CHAR;
-      const std::int32_t code = arguments.Number("the code of the " + event + ", a number");
+      const std::int32_t code = arguments.Number(Say(event == "key" ? say::kKeyCode : say::kCharacterCode));
       reaction.wanted = [=](const Message& message) { return message.number == number && message.wParam == code; };
     } else if (event == "text" || event == "close") {
       const std::uint32_t number = event == "text" ? platform::WM_SETTEXT : platform::WM_CLOSE;
       if (event == "close") plan.staysOnClose = true;
       reaction.wanted = [=](const Message& message) { return message.number == number; };
     } else {
-      arguments.Mistake(expected + " instead of \"" + event + "\"");
+      arguments.Mistake(Say(say::kInsteadOf, {expected, ToUtf8(event)}));
     }
     arguments.End();
     reaction.actions = actions_.Read(statement);

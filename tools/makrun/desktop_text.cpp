@@ -2,10 +2,13 @@
 
 #include "common/code_pages.h"
 #include "common/tool.h"
+#include "desktop_texts.h"
 #include "runtime/text.h"
 
 namespace makrun {
 namespace {
+
+using tools::Say;
 
 struct Line {
   int number = 0;
@@ -25,8 +28,7 @@ class Reader {
       ReadLine(number, line);
     }
     std::size_t next = 0;
-    if (!lines_.empty() && lines_[0].indentation > 0)
-      RaiseMistake(path_, lines_[0].number, "a first statement that is not indented");
+    if (!lines_.empty() && lines_[0].indentation > 0) RaiseMistake(path_, lines_[0].number, Say(say::kNotIndented));
     return Block(next, 0);
   }
 
@@ -34,7 +36,7 @@ class Reader {
   void ReadLine(int number, const std::string& line) {
     const auto start = line.find_first_not_of(' ');
     if (start == std::string::npos || line[start] == '#') return;
-    if (line[start] == '\t') RaiseMistake(path_, number, "an indentation of blanks, without tabs");
+    if (line[start] == '\t') RaiseMistake(path_, number, Say(say::kNoTabs));
     lines_.push_back({number, start, Words(number, line, start)});
   }
 
@@ -49,13 +51,13 @@ class Reader {
       }
       std::string text;
       for (++at;; ++at) {
-        if (at >= line.size()) RaiseMistake(path_, number, "a double quote at the end of the text");
+        if (at >= line.size()) RaiseMistake(path_, number, Say(say::kClosingQuote));
         if (line[at] != '"') text += line[at];
         else if (line.substr(at, 2) == "\"\"") text += line[at++];
         else break;
       }
       words.push_back({text, true});
-      if (++at < line.size() && line[at] != ' ') RaiseMistake(path_, number, "a blank behind the text");
+      if (++at < line.size() && line[at] != ' ') RaiseMistake(path_, number, Say(say::kBlankBehind));
     }
     return words;
   }
@@ -65,7 +67,7 @@ class Reader {
     std::vector<Statement> statements;
     while (next < lines_.size() && lines_[next].indentation >= indentation) {
       const Line& line = lines_[next];
-      if (line.indentation > indentation) RaiseMistake(path_, line.number, "the indentation of one of the lines above");
+      if (line.indentation > indentation) RaiseMistake(path_, line.number, Say(say::kIndentationAbove));
       statements.push_back({line.number, line.words, {}});
       ++next;
       if (next < lines_.size() && lines_[next].indentation > indentation)
@@ -83,7 +85,7 @@ class Reader {
 std::vector<Statement> ReadStatements(const std::string& path) { return Reader(path).Read(); }
 
 void RaiseMistake(const std::string& path, int line, const std::string& expected) {
-  throw tools::FileError{path + ":" + std::to_string(line) + ": expected " + expected};
+  throw tools::FileError{path + ":" + std::to_string(line) + ": " + Say(say::kExpected, {expected})};
 }
 
 }  // namespace makrun

@@ -1,4 +1,4 @@
-// What makrun says.
+// What makrun says; of desktop files in desktop_texts.h.
 #pragma once
 
 #include "common/texts.h"
