@@ -19,7 +19,8 @@ class MakrunTest(EndToEndTest):
         done = self.makrun("Prüfung.mak")
         self.assertEqual(done.returncode, 1, done.stderr)
         self.assertEqual(done.stdout.decode("utf-8").splitlines(), ["MSG: Größe", "Schluß"])
-        self.assertEqual(done.stderr.decode("utf-8").splitlines(), ["Schluß"])
+        self.assertEqual(done.stderr.decode("utf-8").splitlines(), [
+            "Prüfung.mak:2: RAISEERROR: Schluß", "  Zeile:      RAISEERROR=Schluß", '  ausgeführt: RAISEERROR "Schluß"'])
         self.assertEqual(sorted(self.folder.iterdir()), before)
 
     def test_a_kept_drive_holds_what_the_macro_has_made(self):
@@ -39,5 +40,13 @@ class MakrunTest(EndToEndTest):
                 self.assertEqual((done.returncode, done.stderr), (0, b""))
                 self.assertEqual(done.stdout.decode("utf-8").splitlines()[-2:], [COMPLETED, STARS])
 
-    def test_a_wrong_command_line_is_told(self):
-        self.assertEqual(self.makrun("--unknown").returncode, 64)
+    def test_a_wrong_command_line_is_told_in_the_language_of_the_system(self):
+        done = self.makrun("--größe")
+        self.assertEqual(done.returncode, 64)
+        self.assertIn("makrun: die Option --größe gibt es nicht", done.stderr.decode("utf-8"))
+        self.assertIn("there is no option --größe", self.makrun("--größe", "--lang", "en").stderr.decode("utf-8"))
+
+    def test_a_file_with_an_umlaut_that_is_not_there_is_named(self):
+        done = self.makrun("Fehlt Größe.mak")
+        self.assertEqual(done.returncode, 66)
+        self.assertIn("makrun: Fehlt Größe.mak kann nicht gelesen werden", done.stderr.decode("utf-8"))

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "common/exit_status.h"
+#include "runtime/code_page.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -76,6 +77,12 @@ bool WriteToConsole(std::FILE*, const std::string&) { return false; }
 
 }  // namespace
 
+#ifdef _WIN32
+std::string HostName(const std::string& path) { return runtime::FromUtf8(path); }
+#else
+std::string HostName(const std::string& path) { return path; }
+#endif
+
 void CommandLine::Flag(const std::string& name, bool& on) { flags_[name] = &on; }
 
 void CommandLine::Setting(const std::string& name, std::function<void(const std::string& value)> take) {
@@ -137,10 +144,10 @@ bool Write(std::FILE* stream, const std::string& text) {
 void Complain(const std::string& tool, const std::string& text) { Write(stderr, tool + ": " + text + "\n"); }
 
 std::string ReadFile(const std::string& path) {
-  const std::filesystem::path native(path);
+  const std::string name = HostName(path);
   std::error_code error;
-  if (std::filesystem::is_directory(native, error)) throw FileError{Say(kNotReadable, {path, Say(kIsFolder)})};
-  std::ifstream file(native, std::ios::binary);
+  if (std::filesystem::is_directory(name, error)) throw FileError{Say(kNotReadable, {path, Say(kIsFolder)})};
+  std::ifstream file(name, std::ios::binary);
   std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   if (!file) throw FileError{Say(kNotReadable, {path, std::strerror(errno)})};
   return text;

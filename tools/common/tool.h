@@ -55,7 +55,10 @@ bool Write(std::FILE* stream, const std::string& text);
 // One line on standard error behind the tool's name.
 void Complain(const std::string& tool, const std::string& text);
 
-// The bytes of a file. Faults: FileError.
+// A path of the command line in the characters that the host's library takes: UTF-8, but for Windows the code page.
+std::string HostName(const std::string& path);
+
+// The bytes of a file, by its path in UTF-8. Faults: FileError.
 std::string ReadFile(const std::string& path);
 
 // Runs `body` with the arguments behind the program's name, in UTF-8, and yields its exit status. What it raises is

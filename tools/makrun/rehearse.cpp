@@ -33,6 +33,7 @@ namespace simulated = platform::simulated;
 using basMain::run;
 using rehearsal::kProgram;
 using tools::FileError;
+using tools::HostName;
 using tools::ProgramText;
 using tools::ReadFile;
 using tools::Say;
@@ -42,13 +43,15 @@ constexpr std::int32_t kGrace = 60;
 
 const std::string kSettings = kProgram + "\\QUMAEXP.INI";
 
-std::string MacroName(const Options& options) { return ProgramText(fs::path(options.macro).filename().string()); }
+std::string MacroName(const Options& options) {
+  return ProgramText(fs::path(HostName(options.macro)).filename().string());
+}
 
 void PrepareSystem(const Options& options) {
   if (!options.drive.empty()) {
     std::error_code error;
-    if (!fs::is_directory(options.drive, error)) throw FileError{Say(say::kNoFolder, {options.drive})};
-    simulated::SetDrive('C', options.drive);
+    if (!fs::is_directory(HostName(options.drive), error)) throw FileError{Say(say::kNoFolder, {options.drive})};
+    simulated::SetDrive('C', HostName(options.drive));
     simulated::SetApplicationPath(kProgram);
   }
   simulated::SetNow(options.now);
@@ -76,7 +79,7 @@ std::string EncodingWarning(const std::string& path, const std::string& bytes) {
 
 // The files beside the macro stand in the program's folder, as copies: a rehearsal leaves the macro's folder as it is.
 void FillProgramFolder(const Options& options) {
-  const fs::path macro(options.macro);
+  const fs::path macro(HostName(options.macro));
   const fs::path beside = macro.has_parent_path() ? macro.parent_path() : fs::path(".");
   const fs::path program(simulated::HostPath(kProgram));
   const std::string text = ReadFile(options.macro);
