@@ -30,14 +30,15 @@ IMPORTS = {
     "kernel32.dll": {
         ("95", "3.1"): """
             CloseHandle CopyFileA CreateDirectoryA CreateFileA CreateFileMappingA CreateProcessA DeleteCriticalSection
-            DeleteFileA EnterCriticalSection ExitProcess FindClose FindFirstFileA FindNextFileA FindResourceA FreeLibrary
-            GetCurrentDirectoryA GetCurrentProcessId GetCurrentThreadId GetEnvironmentVariableA GetFileAttributesA
-            GetLastError GetLocalTime GetModuleFileNameA GetModuleHandleA GetModuleHandleW GetPrivateProfileStringA
-            GetProcAddress GetStartupInfoA GetSystemDirectoryA GetTickCount GetVersion GlobalLock GlobalSize GlobalUnlock
-            InitializeCriticalSection IsDBCSLeadByteEx LeaveCriticalSection LoadLibraryA LoadLibraryW LoadResource
-            LockResource MapViewOfFile MoveFileA MultiByteToWideChar OpenProcess QueryPerformanceCounter ReadFile
-            ReadProcessMemory RemoveDirectoryA SetErrorMode SetFileAttributesA SetFilePointer SetUnhandledExceptionFilter
-            SizeofResource Sleep TlsGetValue UnmapViewOfFile VirtualProtect VirtualQuery WideCharToMultiByte WriteFile
+            DeleteFileA EnterCriticalSection ExitProcess FindClose FindFirstFileA FindNextFileA FindResourceA
+            FreeLibrary GetCurrentDirectoryA GetCurrentProcessId GetCurrentThreadId GetEnvironmentVariableA
+            GetFileAttributesA GetLastError GetLocalTime GetModuleFileNameA GetModuleHandleA GetModuleHandleW
+            GetPrivateProfileStringA GetProcAddress GetStartupInfoA GetSystemDirectoryA GetTickCount GetVersion
+            GlobalLock GlobalSize GlobalUnlock InitializeCriticalSection IsDBCSLeadByteEx LeaveCriticalSection
+            LoadLibraryA LoadLibraryW LoadResource LockResource MapViewOfFile MoveFileA MultiByteToWideChar OpenProcess
+            QueryPerformanceCounter ReadFile ReadProcessMemory RemoveDirectoryA SearchPathA SetErrorMode
+            SetFileAttributesA SetFilePointer SetUnhandledExceptionFilter SizeofResource Sleep TlsGetValue
+            UnmapViewOfFile VirtualAlloc VirtualFree VirtualProtect VirtualQuery WideCharToMultiByte WriteFile
             WritePrivateProfileStringA WriteProcessMemory lstrcpynA""",
         ("95", "3.5"): "GetVersionExA",
     },
@@ -54,15 +55,15 @@ IMPORTS = {
             AdjustWindowRectEx AppendMenuA AttachThreadInput CallWindowProcA CloseClipboard CreateDialogIndirectParamA
             CreatePopupMenu CreateWindowExA DefDlgProcA DestroyIcon DestroyMenu DestroyWindow DispatchMessageA DrawTextA
             EmptyClipboard EnableWindow EnumChildWindows EnumThreadWindows FindWindowA GetActiveWindow GetAsyncKeyState
-            GetClassInfoA GetClassNameA GetClientRect GetClipboardData GetCursorPos GetDC GetDlgCtrlID GetDlgItem GetFocus
-            GetForegroundWindow GetKeyState GetMessageA GetParent GetSystemMetrics GetWindow GetWindowLongA
+            GetClassInfoA GetClassNameA GetClientRect GetClipboardData GetCursorPos GetDC GetDlgCtrlID GetDlgItem
+            GetFocus GetForegroundWindow GetKeyState GetMessageA GetParent GetSystemMetrics GetWindow GetWindowLongA
             GetWindowPlacement GetWindowRect GetWindowTextA GetWindowTextLengthA GetWindowThreadProcessId InvalidateRect
             IsChild IsClipboardFormatAvailable IsDialogMessageA IsWindow IsWindowEnabled IsWindowVisible KillTimer
             LoadCursorA MapVirtualKeyA MessageBoxA OpenClipboard PeekMessageA PostMessageA PostQuitMessage
-            PostThreadMessageA RegisterClassA RegisterHotKey ReleaseDC SendMessageA SendMessageTimeoutA SendMessageW
-            SetCursorPos SetFocus SetForegroundWindow SetTimer SetWindowLongA SetWindowPlacement SetWindowPos
-            SetWindowTextA ShowWindow SystemParametersInfoA TrackPopupMenu TranslateMessage UnregisterHotKey UpdateWindow
-            keybd_event mouse_event""",
+            PostThreadMessageA RegisterClassA RegisterHotKey RegisterWindowMessageA ReleaseDC SendMessageA
+            SendMessageTimeoutA SendMessageW SetCursorPos SetFocus SetForegroundWindow SetTimer SetWindowLongA
+            SetWindowPlacement SetWindowPos SetWindowTextA ShowWindow SystemParametersInfoA TrackPopupMenu
+            TranslateMessage UnregisterHotKey UpdateWindow keybd_event mouse_event""",
         ("95", "4"): """
             GetKeyboardLayout GetSysColorBrush LoadImageA MapVirtualKeyExA RegisterClassExA VkKeyScanExA""",
     },
