@@ -31,6 +31,7 @@ bool ParseMakroLine(const std::string& line, std::string& verb, Arguments& a) {
   std::string text = Remove(line, '"');
   ExpandBuiltInVariables(text);
   SplitCommand(text, verb, a);
+  if (text.find('=') == std::string::npos) return true;  // no argument, so none that a variable could replace
   for (std::size_t i = 1; i < a.size(); ++i) ReplaceUserVariable(a[i]);
   return true;
 }

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <utility>
 
 #include "fixture.h"
@@ -46,8 +47,9 @@ std::int32_t AddForeignWindow(const WindowPlan& plan) {
   if (plan.className == kGrowingClass) {
     At(hWnd).className = "ComboBox";
     At(hWnd).entries = {std::string(std::stoul(plan.text), 'x')};
-    At(hWnd).procedure = [told = false](const platform::simulated::Message& message) mutable {
-      const bool first = message.number == platform::CB_GETLBTEXTLEN && !std::exchange(told, true);
+    // Shared by the copies of the procedure that the desktop makes.
+    At(hWnd).procedure = [told = std::make_shared<bool>(false)](const platform::simulated::Message& message) {
+      const bool first = message.number == platform::CB_GETLBTEXTLEN && !std::exchange(*told, true);
       return first ? std::optional<std::int32_t>(5) : std::nullopt;
     };
   }
