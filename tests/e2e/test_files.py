@@ -4,7 +4,7 @@ import threading
 import time
 import unittest
 
-from harness import CODE_PAGE, COMPLETED, RESULTS, STARS, EndToEndTest, wait_until
+from harness import CODE_PAGE, COMPLETED, PROGRAM, RESULTS, STARS, EndToEndTest, wait_until
 
 DATA = "C:\\TeRu\\Büro"
 STATUS_LABEL = 101

@@ -6,7 +6,6 @@ import shutil
 import unittest
 
 from harness import (
-    CAPTION,
     CODE_PAGE,
     COMPLETED,
     DESTINATION,
@@ -447,7 +446,7 @@ MSG=Schluß am $DATE
         self.assertEqual(
             self.teru_log(),
             [
-                "Start: " + CAPTION,
+                "Start: " + caption,
                 "Text 2110: " + path,
                 "Schaltfläche: Export starten",
                 "Export: " + path,

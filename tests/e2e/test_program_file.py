@@ -29,17 +29,18 @@ IMPORTS = {
     },
     "kernel32.dll": {
         ("95", "3.1"): """
-            CloseHandle CopyFileA CreateDirectoryA CreateFileA CreateFileMappingA CreateProcessA DeleteCriticalSection
-            DeleteFileA EnterCriticalSection ExitProcess FindClose FindFirstFileA FindNextFileA FindResourceA
-            FreeLibrary GetCurrentDirectoryA GetCurrentProcessId GetCurrentThreadId GetEnvironmentVariableA
-            GetFileAttributesA GetLastError GetLocalTime GetModuleFileNameA GetModuleHandleA GetModuleHandleW
-            GetPrivateProfileStringA GetProcAddress GetStartupInfoA GetSystemDirectoryA GetTickCount GetVersion
-            GlobalLock GlobalSize GlobalUnlock InitializeCriticalSection IsDBCSLeadByteEx LeaveCriticalSection
-            LoadLibraryA LoadLibraryW LoadResource LockResource MapViewOfFile MoveFileA MultiByteToWideChar OpenProcess
-            QueryPerformanceCounter ReadFile ReadProcessMemory RemoveDirectoryA SearchPathA SetErrorMode
-            SetFileAttributesA SetFilePointer SetUnhandledExceptionFilter SizeofResource Sleep TlsGetValue
-            UnmapViewOfFile VirtualAlloc VirtualFree VirtualProtect VirtualQuery WideCharToMultiByte WriteFile
-            WritePrivateProfileStringA WriteProcessMemory lstrcpynA""",
+            CloseHandle CopyFileA CopyFileW CreateDirectoryA CreateDirectoryW CreateFileA CreateFileMappingA
+            CreateProcessA DeleteCriticalSection DeleteFileA DeleteFileW EnterCriticalSection ExitProcess FindClose
+            FindFirstFileA FindFirstFileW FindNextFileA FindNextFileW FindResourceA FreeLibrary GetCurrentDirectoryA
+            GetCurrentProcessId GetCurrentThreadId GetEnvironmentVariableA GetFileAttributesA GetFileAttributesW
+            GetLastError GetLocalTime GetModuleFileNameA GetModuleHandleA GetModuleHandleW GetPrivateProfileStringA
+            GetProcAddress GetStartupInfoA GetSystemDirectoryA GetTickCount GetVersion GlobalLock GlobalSize
+            GlobalUnlock InitializeCriticalSection IsDBCSLeadByteEx LeaveCriticalSection LoadLibraryA LoadLibraryW
+            LoadResource LockResource MapViewOfFile MoveFileA MoveFileW MultiByteToWideChar OpenProcess
+            QueryPerformanceCounter ReadFile ReadProcessMemory RemoveDirectoryA RemoveDirectoryW SearchPathA
+            SetErrorMode SetFileAttributesA SetFileAttributesW SetFilePointer SetUnhandledExceptionFilter SizeofResource
+            Sleep TlsGetValue UnmapViewOfFile VirtualAlloc VirtualFree VirtualProtect VirtualQuery WideCharToMultiByte
+            WriteFile WritePrivateProfileStringA WriteProcessMemory lstrcpynA""",
         ("95", "3.5"): "GetVersionExA",
     },
     "msvcrt.dll": {

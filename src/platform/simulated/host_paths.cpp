@@ -147,7 +147,12 @@ std::filesystem::path PathOnHost(const FilePath& path) {
   return host;
 }
 
-std::string HostPath(const std::string& path) { return PathOnHost(path).string(); }
+#ifdef _WIN32
+// The host's library gives a path in UTF-8 and takes it in the code page.
+std::string HostPath(const std::string& path) { return runtime::FromUtf8(PathOnHost(path).string()); }
+#else
+std::string HostPath(const std::string& path) { return PathOnHost(path).native(); }
+#endif
 
 std::u16string LongPath(const FilePath& path) {
   const std::u16string drive = FullPath(path).substr(0, 3);
