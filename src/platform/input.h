@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 namespace platform {
 
@@ -61,7 +62,8 @@ constexpr std::uint8_t VK_RMENU = 165;
 constexpr std::uint32_t KEYEVENTF_EXTENDEDKEY = 1;
 constexpr std::uint32_t KEYEVENTF_KEYUP = 2;
 
-// One key goes down or up. A scan code of 0 is filled in by the keyboard layout.
+// One key goes down or up. A scan code of 0 is filled in by the keyboard layout, an extra info of 0 by the mark of the
+// program's own keys, as that of a typed character: its own windows take no notice of them.
 void keybd_event(std::uint8_t bVk, std::uint8_t bScan, std::uint32_t dwFlags, std::uint32_t dwExtraInfo);
 
 // The key that types a character of the code page on the keyboard layout of the foreground window, with 256 for Shift,
@@ -76,15 +78,42 @@ std::int16_t GetAsyncKeyState(std::int32_t vKey);
 // An odd number while the key (such as VK_CAPITAL) is switched on.
 std::int16_t GetKeyState(std::int32_t nVirtKey);
 
-// Waits until the keys sent so far have been processed, at most 5 seconds (a program that hangs never takes them). The
-// answer is sure only while the queue of the foreground window is joined with that of this thread; otherwise it waits
-// until the foreground window answers a message. False, at once, when the foreground window is the program's own: its
-// keys are processed by the next pump.
-bool WaitForKeys();
+// The queue that keys go to while a string of them is sent: that of the window in front. It is joined with the queue of
+// this thread meanwhile, since the state of the keys tells only those who share a queue what has been taken from it. A
+// receiver that works at something else is left alone, for it would hold back the clicks on the program's own windows:
+// what they share is handled in order.
+class KeyReceiver {
+ public:
+  KeyReceiver();
+  // Parts what Follow has joined. The window in front stays.
+  ~KeyReceiver();
+  KeyReceiver(const KeyReceiver&) = delete;
+  KeyReceiver& operator=(const KeyReceiver&) = delete;
+
+  // Before each key: goes over to the window that is in front now, or puts the receiver back where one of the program's
+  // own, which takes no key, has come to the front meanwhile. True when the receiver does not know which keys are
+  // down, since it is another one or has been parted meanwhile.
+  bool Follow();
+
+  // Wait until the key that was sent last, which went down or up, has been taken, or until all keys have been worked
+  // at, or until the receiver has gone; there is no limit. A character (TypeCharacter) is waited for with all keys.
+  // False: the sending takes more than 5 seconds, so the program handles its messages and calls again. True at once
+  // for the program's own windows, which take theirs by the next pump, and without a window in front.
+  bool Took(std::uint8_t bVk, bool down);
+  bool TookAll();
+
+  // The keys go to the program's own windows.
+  bool IsOwn() const;
+
+ private:
+  struct Queue;
+  std::unique_ptr<Queue> queue_;
+};
 
 // Queues and focus.
 
-// Joins the input queue of the first thread to that of the second, or parts them. Parting keeps the foreground window.
+// Joins the input queue of the first thread to that of the second, or parts them. The foreground window stays, and so
+// do the keys that wait in the queue of another thread.
 bool AttachThreadInput(std::uint32_t idAttach, std::uint32_t idAttachTo, bool fAttach);
 
 // Moves the focus within the queue of this thread, joined ones included, and activates the window that holds it. Yields

@@ -21,7 +21,8 @@ struct WindowPlan {
   std::int32_t id = 0;
   std::int32_t left = 40, top = 60, width = 300, height = 200;
   bool enabled = true;
-  std::uint32_t style = 0;  // beyond that of every window
+  std::uint32_t style = 0;   // beyond that of every window
+  std::int32_t keyTime = 0;  // milliseconds that an "Edit" takes for a character
 };
 
 // Styles of controls.
@@ -31,9 +32,11 @@ constexpr std::uint32_t kDropDown = 2, kDropDownList = 3;
 constexpr std::uint32_t kSingleSelection = 4;
 
 // A plain window, which shows a WM_COMMAND that it gets by changing its text to "id notification handle", and works for
-// 300 milliseconds at the slow key before it changes its text to "langsam".
+// 300 milliseconds at the slow key before it changes its text to "langsam", and for 6 seconds at the endless key before
+// it changes it to "endlos".
 constexpr char kPlainClass[] = "ContractWindow";
-constexpr std::uint8_t kSlowKey = 113;  // F2
+constexpr std::uint8_t kSlowKey = 113;     // F2
+constexpr std::uint8_t kEndlessKey = 114;  // F3
 
 class Test : public testing::Test {
  protected:

@@ -16,6 +16,11 @@ using platform::simulated::At;
 
 constexpr std::uint32_t kForeignProcess = 77;
 
+void WorkAndShow(std::int32_t hWnd, std::int32_t milliseconds, const std::string& text) {
+  platform::simulated::Schedule(milliseconds, [=] { At(hWnd).text = text; });
+  platform::simulated::Occupy(hWnd, milliseconds);
+}
+
 }  // namespace
 
 void Test::SetUp() {
@@ -35,10 +40,14 @@ std::int32_t AddForeignWindow(const WindowPlan& plan) {
                                                     .process = kForeignProcess,
                                                     .enabled = plan.enabled,
                                                     .rectangle = {plan.left, plan.top, right, bottom},
-                                                    .style = plan.style});
+                                                    .style = plan.style,
+                                                    .keyTime = plan.keyTime});
   if (plan.className != kPlainClass) return hWnd;
   At(hWnd).procedure = [hWnd](const platform::simulated::Message& message) -> std::optional<std::int32_t> {
-    if (message.number == platform::WM_KEYDOWN && message.wParam == kSlowKey) At(hWnd).text = "langsam";
+    if (message.number == platform::WM_KEYDOWN) {
+      if (message.wParam == kSlowKey) WorkAndShow(hWnd, 300, "langsam");
+      if (message.wParam == kEndlessKey) WorkAndShow(hWnd, 6000, "endlos");
+    }
     if (message.number != platform::WM_COMMAND) return std::nullopt;
     At(hWnd).text = std::to_string(message.wParam & 0xFFFF) + " " + std::to_string(message.wParam >> 16) + " " +
                     std::to_string(message.lParam);

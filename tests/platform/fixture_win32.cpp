@@ -31,6 +31,7 @@ struct Order {
   std::int32_t parent, id, left, top, width, height;
   BOOL enabled;
   DWORD style;
+  DWORD keyTime;
 };
 
 // A row for a list view of the other process; it gets as many columns as there are texts.
@@ -49,11 +50,24 @@ LRESULT CALLBACK PlainProcedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM l
     ::SetWindowTextA(hWnd, text.c_str());
     return 0;
   }
-  if (message == WM_KEYDOWN && wParam == kSlowKey) {
-    ::Sleep(300);
-    ::SetWindowTextA(hWnd, "langsam");
+  if (message == WM_KEYDOWN && (wParam == kSlowKey || wParam == kEndlessKey)) {
+    ::Sleep(wParam == kSlowKey ? 300 : 6000);
+    ::SetWindowTextA(hWnd, wParam == kSlowKey ? "langsam" : "endlos");
   }
   return ::DefWindowProcA(hWnd, message, wParam, lParam);
+}
+
+WNDPROC editProcedure = nullptr;
+
+LRESULT CALLBACK SlowEditProcedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_CHAR) ::Sleep(static_cast<DWORD>(::GetWindowLongA(hWnd, GWL_USERDATA)));
+  return ::CallWindowProcA(editProcedure, hWnd, message, wParam, lParam);
+}
+
+void MakeSlow(HWND edit, DWORD keyTime) {
+  ::SetWindowLongA(edit, GWL_USERDATA, static_cast<LONG>(keyTime));
+  editProcedure = reinterpret_cast<WNDPROC>(
+      ::SetWindowLongA(edit, GWL_WNDPROC, static_cast<LONG>(reinterpret_cast<LONG_PTR>(&SlowEditProcedure))));
 }
 
 void RegisterClassNamed(const char* name, WNDPROC procedure) {
@@ -91,6 +105,7 @@ HWND Create(const Order& order) {
       0, order.className, order.text, style, order.left, order.top, order.width, order.height, HandleOf(order.parent),
       reinterpret_cast<HMENU>(static_cast<LONG_PTR>(order.id)), ::GetModuleHandleA(nullptr), nullptr);
   if (::lstrcmpiA(order.className, WC_LISTVIEWA) == 0) AddColumns(hWnd);
+  if (order.keyTime != 0) MakeSlow(hWnd, order.keyTime);
   if (hWnd == nullptr) throw std::runtime_error("a window of class " + std::string(order.className) + " can't be made");
   return hWnd;
 }
@@ -217,7 +232,17 @@ void Test::TearDown() {
 }
 
 std::int32_t AddForeignWindow(const WindowPlan& plan) {
-  Order order = {"", "", plan.parent, plan.id, plan.left, plan.top, plan.width, plan.height, plan.enabled, plan.style};
+  Order order = {"",
+                 "",
+                 plan.parent,
+                 plan.id,
+                 plan.left,
+                 plan.top,
+                 plan.width,
+                 plan.height,
+                 plan.enabled,
+                 plan.style,
+                 static_cast<DWORD>(plan.keyTime)};
   plan.className.copy(order.className, sizeof order.className - 1);
   plan.text.copy(order.text, sizeof order.text - 1);
   foreignWindows.push_back(static_cast<std::int32_t>(Ask(kAdd, &order, sizeof order)));
@@ -245,7 +270,7 @@ void SetSelectionMark(std::int32_t hWnd, std::int32_t row) {
 std::int32_t AddOwnWindow(const std::string& text) {
   static const bool registered = (RegisterClassNamed(kPlainClass, ::DefWindowProcA), true);
   static_cast<void>(registered);
-  Order order = {"", "", 0, 0, 40, 60, 300, 200, TRUE, 0};
+  Order order = {"", "", 0, 0, 40, 60, 300, 200, TRUE, 0, 0};
   std::string(kPlainClass).copy(order.className, sizeof order.className - 1);
   text.copy(order.text, sizeof order.text - 1);
   ownWindows.push_back(NumberOf(Create(order)));

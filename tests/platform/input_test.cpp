@@ -25,6 +25,18 @@ void Stroke(std::uint8_t key) {
   platform::keybd_event(key, 0, platform::KEYEVENTF_KEYUP, 0);
 }
 
+// Waits as the program does while it sends.
+void WaitForAll(platform::KeyReceiver& receiver) {
+  while (!receiver.TookAll()) contract::RunFor(10);
+}
+
+void StrokeAndWait(std::uint8_t key) {
+  platform::KeyReceiver receiver;
+  receiver.Follow();
+  Stroke(key);
+  WaitForAll(receiver);
+}
+
 // A field in a window of another process, and the two threads.
 class Keys : public contract::Test {
  protected:
@@ -48,11 +60,13 @@ TEST_F(Keys, GoToTheFieldThatGetsTheFocusThroughJoinedQueues) {
   ASSERT_TRUE(Join());
   platform::SetForegroundWindow(window_);
   platform::SetFocus(field_);
+  platform::KeyReceiver receiver;
+  receiver.Follow();
   Stroke('A');
   platform::keybd_event(platform::VK_SHIFT, 0, 0, 0);
   Stroke('B');
   platform::keybd_event(platform::VK_SHIFT, 0, platform::KEYEVENTF_KEYUP, 0);
-  EXPECT_TRUE(platform::WaitForKeys());
+  WaitForAll(receiver);
   EXPECT_EQ(TextOf(field_), "aB");
 }
 
@@ -60,8 +74,10 @@ TEST_F(Keys, CharactersWithoutAKeyOnTheLayoutAreTyped) {
   ASSERT_TRUE(Join());
   platform::SetForegroundWindow(window_);
   platform::SetFocus(field_);
+  platform::KeyReceiver receiver;
+  receiver.Follow();
   for (const char character : std::string("äÖß€éz")) platform::TypeCharacter(character);
-  EXPECT_TRUE(platform::WaitForKeys());
+  WaitForAll(receiver);
   EXPECT_EQ(TextOf(field_), "äÖß€éz");
 }
 
@@ -69,8 +85,7 @@ TEST_F(Keys, AreWaitedForUntilTheyAreWorkedAt) {
   ASSERT_TRUE(Join());
   platform::SetForegroundWindow(window_);
   platform::SetFocus(window_);
-  Stroke(contract::kSlowKey);
-  EXPECT_TRUE(platform::WaitForKeys());
+  StrokeAndWait(contract::kSlowKey);
   std::string text;
   platform::GetWindowTextA(window_, text, 100);
   EXPECT_EQ(text, "langsam");
@@ -79,8 +94,7 @@ TEST_F(Keys, AreWaitedForUntilTheyAreWorkedAt) {
 TEST_F(Keys, GoToTheForegroundWindowWithoutJoinedQueues) {
   platform::SetForegroundWindow(window_);
   contract::RunFor(200);
-  Stroke(contract::kSlowKey);
-  EXPECT_TRUE(platform::WaitForKeys());
+  StrokeAndWait(contract::kSlowKey);
   std::string text;
   platform::GetWindowTextA(window_, text, 100);
   EXPECT_EQ(text, "langsam");
@@ -89,7 +103,13 @@ TEST_F(Keys, GoToTheForegroundWindowWithoutJoinedQueues) {
 TEST_F(Keys, ForTheProgramItselfAreNotWaitedFor) {
   platform::SetForegroundWindow(own_);
   contract::RunFor(200);
-  EXPECT_FALSE(platform::WaitForKeys());
+  platform::KeyReceiver receiver;
+  receiver.Follow();
+  EXPECT_TRUE(receiver.IsOwn());
+  platform::keybd_event(platform::VK_SHIFT, 0, 0, 0);
+  EXPECT_TRUE(receiver.Took(platform::VK_SHIFT, true));
+  platform::keybd_event(platform::VK_SHIFT, 0, platform::KEYEVENTF_KEYUP, 0);
+  EXPECT_TRUE(receiver.TookAll());
 }
 
 TEST_F(Keys, FocusStaysWithinItsQueue) {
@@ -113,12 +133,108 @@ TEST_F(Keys, QueuesOfOneThreadOrNoneAreNotJoined) {
   EXPECT_FALSE(platform::AttachThreadInput(ThreadOf(own_), 0, true));
 }
 
-TEST_F(Keys, PartingKeepsTheForeground) {
-  ASSERT_TRUE(Join());
+TEST_F(Keys, TheWindowInFrontStaysOverJoiningAndParting) {
   platform::SetForegroundWindow(window_);
+  contract::RunFor(200);
+  ASSERT_TRUE(Join());
+  EXPECT_EQ(platform::GetForegroundWindow(), window_);
   platform::SetFocus(field_);
+  EXPECT_EQ(platform::GetForegroundWindow(), window_);
   EXPECT_TRUE(Join(false));
   EXPECT_EQ(platform::GetForegroundWindow(), window_);
+}
+
+// A field that takes 100 milliseconds for a character.
+class SlowKeys : public Keys {
+ protected:
+  void SetUp() override {
+    Keys::SetUp();
+    slow_ = AddForeignWindow({.className = "Edit", .parent = window_, .width = 100, .height = 24, .keyTime = 100});
+    ASSERT_TRUE(Join());
+    platform::SetForegroundWindow(window_);
+    platform::SetFocus(slow_);
+    ASSERT_TRUE(Join(false));
+    contract::RunFor(200);
+  }
+  static void StrokeAll(const std::string& letters) {
+    for (const char letter : letters) Stroke(static_cast<std::uint8_t>(letter));
+  }
+
+  std::int32_t slow_ = 0;
+};
+
+TEST_F(SlowKeys, AreWaitedForWithoutJoinedQueues) {
+  platform::KeyReceiver receiver;
+  receiver.Follow();
+  StrokeAll("ABCDEFGH");
+  WaitForAll(receiver);
+  EXPECT_EQ(TextOf(slow_), "abcdefgh");
+}
+
+TEST_F(SlowKeys, AreWaitedForThroughJoinedQueues) {
+  ASSERT_TRUE(Join());
+  platform::KeyReceiver receiver;
+  receiver.Follow();
+  StrokeAll("ABCDEFGH");
+  WaitForAll(receiver);
+  EXPECT_EQ(TextOf(slow_), "abcdefgh");
+}
+
+TEST_F(SlowKeys, AreWaitedForOneByOne) {
+  platform::KeyReceiver receiver;
+  receiver.Follow();
+  for (int i = 1; i <= 4; ++i) {
+    platform::keybd_event('A', 0, 0, 0);
+    while (!receiver.Took('A', true)) contract::RunFor(10);
+    platform::keybd_event('A', 0, platform::KEYEVENTF_KEYUP, 0);
+    while (!receiver.Took('A', false)) contract::RunFor(10);
+    EXPECT_EQ(TextOf(slow_), std::string(static_cast<std::size_t>(i), 'a'));
+  }
+}
+
+TEST_F(SlowKeys, AreStillWaitingWhenASentMessageIsAnswered) {
+  StrokeAll("ABCDEFGH");
+  EXPECT_LT(TextOf(slow_).size(), 8u);
+  contract::RunFor(2000);
+  EXPECT_EQ(TextOf(slow_), "abcdefgh");
+}
+
+TEST_F(SlowKeys, ThatWaitSurviveJoiningAndParting) {
+  StrokeAll("ABCDEFGH");
+  ASSERT_TRUE(Join());
+  ASSERT_TRUE(Join(false));
+  EXPECT_EQ(platform::GetForegroundWindow(), window_);
+  contract::RunFor(2000);
+  EXPECT_EQ(TextOf(slow_), "abcdefgh");
+}
+
+TEST_F(Keys, ThatTakeMoreThanFiveSecondsLetTheProgramHandleItsMessages) {
+  platform::SetForegroundWindow(window_);
+  contract::RunFor(200);
+  platform::KeyReceiver receiver;
+  receiver.Follow();
+  Stroke(contract::kEndlessKey);
+  int pumps = 0;
+  for (; !receiver.TookAll(); ++pumps) {
+    std::string text;
+    platform::GetWindowTextA(own_, text, 100);
+    ASSERT_EQ(text, "eigenes");
+    contract::RunFor(10);
+  }
+  EXPECT_GT(pumps, 1);
+  EXPECT_EQ(TextOf(window_), "endlos");
+}
+
+TEST_F(Keys, ForAWindowThatGoesAreNoLongerWaitedFor) {
+  platform::SetForegroundWindow(window_);
+  contract::RunFor(200);
+  platform::KeyReceiver receiver;
+  receiver.Follow();
+  contract::DestroyForeignWindow(window_);
+  Stroke('A');
+  WaitForAll(receiver);
+  std::string name;
+  EXPECT_EQ(platform::GetClassNameA(window_, name, 100), 0);
 }
 
 TEST_F(Keys, FocusIsKeptWhenTheQueuesAreParted) {
@@ -127,9 +243,7 @@ TEST_F(Keys, FocusIsKeptWhenTheQueuesAreParted) {
   platform::SetFocus(field_);
   EXPECT_TRUE(Join(false));
   contract::RunFor(200);
-  Stroke('C');
-  platform::WaitForKeys();
-  contract::RunFor(100);
+  StrokeAndWait('C');
   EXPECT_EQ(TextOf(field_), "c");
 }
 

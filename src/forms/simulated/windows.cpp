@@ -7,6 +7,7 @@
 #include "platform/messages.h"
 #include "platform/simulated/desktop.h"
 #include "platform/system.h"
+#include "runtime/text.h"
 
 namespace forms {
 namespace simulated {
@@ -61,6 +62,17 @@ Button* EnabledButton(const Form& form, std::int32_t handle) {
   return nullptr;
 }
 
+// The button whose letter of access this is; null for none. While no field has the focus the letter alone is enough.
+Button* ButtonOfLetter(const Form& form, char letter) {
+  const std::string access = {'&', letter};
+  for (Control* control : form.Controls()) {
+    if (control->kind == ControlKind::Button && control->now.enabled &&
+        runtime::ToLower(control->now.text).find(runtime::ToLower(access)) != std::string::npos)
+      return static_cast<Button*>(control);
+  }
+  return nullptr;
+}
+
 std::optional<std::int32_t> OnFormMessage(Form& form, const Message& message) {
   switch (message.number) {
     case platform::WM_MOUSEMOVE:
@@ -74,6 +86,12 @@ std::optional<std::int32_t> OnFormMessage(Form& form, const Message& message) {
     case platform::WM_CLOSE:
       form.Unload();
       return 0;
+    case platform::WM_CHAR:
+    case platform::WM_SYSCHAR: {
+      Button* button = ButtonOfLetter(form, static_cast<char>(message.wParam));
+      if (button != nullptr && !message.fromProgram) button->Click();
+      return 0;
+    }
     default:
       return std::nullopt;
   }

@@ -299,6 +299,7 @@ namespace forms::realization {
 using namespace win32;
 
 std::int32_t Create(Form& form) {
+  WatchForOwnKeys();
   const std::vector<Control*> controls = ControlsOf(form.Layout());
   const HWND window = MakeWindow(form, controls.empty());
   CreateControls(platform::NumberOf(window), controls);

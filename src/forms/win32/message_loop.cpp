@@ -7,6 +7,7 @@
 
 #include "forms/realization.h"
 #include "forms/win32/form_window.h"
+#include "platform/win32/own_keys.h"
 
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
@@ -37,6 +38,15 @@ class ModalSession {
 };
 
 std::vector<ModalSession*> sessions;
+
+// A key of the program's own that has missed its target must not press a button here, answer a box or move in a menu.
+LRESULT CALLBACK DropOwnKeys(int code, WPARAM removed, LPARAM record) {
+  MSG& message = *reinterpret_cast<MSG*>(record);
+  const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+  if (code == HC_ACTION && isKey && static_cast<std::uint32_t>(::GetMessageExtraInfo()) == platform::kOwnKey)
+    message.message = WM_NULL;
+  return ::CallNextHookEx(nullptr, code, removed, record);
+}
 
 BOOL CALLBACK Collect(HWND window, LPARAM list) {
   reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
@@ -94,6 +104,11 @@ void Raise(const std::function<void()>& handler) {
 
 void RethrowRaised() {
   if (raised) std::rethrow_exception(std::exchange(raised, nullptr));
+}
+
+void WatchForOwnKeys() {
+  static const HHOOK hook = ::SetWindowsHookExA(WH_GETMESSAGE, DropOwnKeys, nullptr, ::GetCurrentThreadId());
+  (void)hook;
 }
 
 void EndModal(std::int32_t hWnd) {

@@ -13,6 +13,9 @@ void Raise(const std::function<void()>& handler);
 // Throws what a handler has left since the last call.
 void RethrowRaised();
 
+// From now on keys that the program itself has sent reach none of its windows, nor the system's menus and boxes in it.
+void WatchForOwnKeys();
+
 // Gives the program's other windows their input back if this one is modal. Called before it vanishes: while the others
 // are still disabled, the system would activate a window of another program.
 void EndModal(std::int32_t hWnd);

@@ -32,7 +32,8 @@ struct Message {
   std::uint32_t number = 0;
   std::int32_t wParam = 0;
   std::int32_t lParam = 0;
-  std::string text = {};  // what SendMessageA carries over as a text
+  std::string text = {};     // what SendMessageA carries over as a text
+  bool fromProgram = false;  // comes of a key that the program itself has sent
 };
 
 // The styles that the controls go by, under the system's names.
@@ -79,6 +80,8 @@ struct Window {
   std::int32_t selectionMark = -1;        // row that the user selected last
   // The list takes the row of LVM_GETITEMTEXTW from the message's first parameter instead of the record.
   bool rowFromParameter = false;
+  std::int32_t keyTime = 0;      // milliseconds that its process works at each key that it gets
+  std::int32_t messageTime = 0;  // the same for each other message
   // The application's own reaction, asked before the behaviour of the class. An answer ends the matter.
   std::function<std::optional<std::int32_t>(const Message&)> procedure = {};
 
@@ -136,12 +139,18 @@ void RaiseIfFailing(const std::string& operation);  // the same with the fault
 // SetFocus and SetWindowPos (window and place in the Z-order), in order, as "SetCursorPos 10 20".
 std::vector<std::string>& InputLog();
 
-// The keyboard has the German layout. A key is handled when its process runs, by the window that has the focus then: it
-// gets WM_KEYDOWN and WM_KEYUP, and WM_CHAR for what the key types.
+// The keyboard has the German layout. A key waits in the queue of the process that is in front when it is pressed, and
+// is handled when that process runs, by the window that has the focus then: it gets WM_KEYDOWN and WM_KEYUP, and
+// WM_CHAR for what the key types. In queues that are joined each process waits for the keys that come first.
 std::int32_t Focus();                      // of the foreground window's process
 std::string TypedText(std::int32_t hWnd);  // the characters that the window has received
 void HoldKey(std::uint8_t key);            // the user keeps a key down
+void PressKey(std::uint8_t key);           // the user presses a key and lets it go
 void SwitchOn(std::uint8_t key);           // such as Caps Lock
+
+// The process of a window handles no message for so long, as behind a handler that takes its time; meant to be called
+// by a window's procedure. Whoever sends it a message waits, and is answered before the keys in its queue are.
+void Occupy(std::int32_t hWnd, std::int32_t milliseconds);
 
 // The user presses a key combination; nothing happens when nobody registered it.
 void PressHotKey(std::uint32_t modifiers, std::uint32_t key);

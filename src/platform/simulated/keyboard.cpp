@@ -1,6 +1,5 @@
 // The keyboard, with the German layout, and the input queues: one for each process, with a focus of its own.
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "platform/input.h"
@@ -73,18 +72,51 @@ bool IsThread(std::uint32_t thread) {
                      [&](const auto& window) { return window.second.process + kThreadOfProcess == thread; });
 }
 
-void Queue(std::uint32_t message, std::uint8_t key, std::uint32_t characterMessage = 0, char character = '\0') {
-  TheDesktop().keys.push_back({{message, key}, {characterMessage, static_cast<unsigned char>(character)}});
+// Into the queue of the window in front; lost without one.
+void Enqueue(bool fromProgram, std::uint32_t message, std::uint8_t key, std::uint32_t characterMessage = 0,
+             char character = '\0') {
+  const Window* front = Find(TheDesktop().foreground);
+  if (front == nullptr) return;
+  TheDesktop().keys.push_back(
+      {front->process,
+       {.number = message, .wParam = key, .fromProgram = fromProgram},
+       {.number = characterMessage, .wParam = static_cast<unsigned char>(character), .fromProgram = fromProgram}});
+}
+
+void KeyEvent(bool fromProgram, std::uint8_t key, std::uint32_t flags) {
+  Desktop& desktop = TheDesktop();
+  const bool system = Down(VK_MENU) && !Down(VK_CONTROL);
+  if ((flags & KEYEVENTF_KEYUP) != 0) {
+    // What is not extended is the left one of the two.
+    const bool left = (key == VK_RCONTROL || key == VK_RMENU) && (flags & KEYEVENTF_EXTENDEDKEY) == 0;
+    if (!left) desktop.keysDown.erase(key);
+    Enqueue(fromProgram, system ? WM_SYSKEYUP : WM_KEYUP, key);
+    return;
+  }
+  if (desktop.keysDown.insert(key).second && desktop.keysOn.erase(key) == 0) desktop.keysOn.insert(key);
+  const char typed = Typed(key);
+  const std::uint32_t characterMessage = typed == '\0' ? 0 : system ? WM_SYSCHAR : WM_CHAR;
+  Enqueue(fromProgram, system ? WM_SYSKEYDOWN : WM_KEYDOWN, key, characterMessage, typed);
 }
 
 }  // namespace
 
+std::int32_t FocusOf(std::uint32_t process) {
+  const Desktop& desktop = TheDesktop();
+  const auto found = desktop.focus.find(process);
+  const std::int32_t focus = found != desktop.focus.end() && Exists(found->second) ? found->second : 0;
+  const Window* front = Find(desktop.foreground);
+  if (front == nullptr || front->process != process) return focus;
+  return focus != 0 && Root(focus) == front->handle ? focus : front->handle;
+}
+
+std::uint32_t QueueOf(std::uint32_t process) {
+  return JoinedWithOwn(process + kThreadOfProcess) ? kOwnProcess : process;
+}
+
 std::int32_t Focus() {
-  const std::int32_t front = TheDesktop().foreground;
-  if (!Exists(front)) return 0;
-  const auto found = TheDesktop().focus.find(At(front).process);
-  const bool inside = found != TheDesktop().focus.end() && Exists(found->second) && Root(found->second) == front;
-  return inside ? found->second : front;
+  const Window* front = Find(TheDesktop().foreground);
+  return front == nullptr ? 0 : FocusOf(front->process);
 }
 
 std::string TypedText(std::int32_t hWnd) {
@@ -95,6 +127,10 @@ std::string TypedText(std::int32_t hWnd) {
 }
 
 void HoldKey(std::uint8_t key) { TheDesktop().keysDown.insert(key); }
+void PressKey(std::uint8_t key) {
+  KeyEvent(false, key, 0);
+  KeyEvent(false, key, KEYEVENTF_KEYUP);
+}
 void SwitchOn(std::uint8_t key) { TheDesktop().keysOn.insert(key); }
 
 }  // namespace simulated
@@ -104,19 +140,7 @@ using namespace simulated;
 void keybd_event(std::uint8_t bVk, std::uint8_t bScan, std::uint32_t dwFlags, std::uint32_t dwExtraInfo) {
   InputLog().push_back("keybd_event " + std::to_string(bVk) + " " + std::to_string(bScan) + " " +
                        std::to_string(dwFlags) + " " + std::to_string(dwExtraInfo));
-  Desktop& desktop = TheDesktop();
-  const bool system = Down(VK_MENU) && !Down(VK_CONTROL);
-  if ((dwFlags & KEYEVENTF_KEYUP) != 0) {
-    // What is not extended is the left one of the two.
-    const bool left = (bVk == VK_RCONTROL || bVk == VK_RMENU) && (dwFlags & KEYEVENTF_EXTENDEDKEY) == 0;
-    if (!left) desktop.keysDown.erase(bVk);
-    Queue(system ? WM_SYSKEYUP : WM_KEYUP, bVk);
-    return;
-  }
-  if (desktop.keysDown.insert(bVk).second && desktop.keysOn.erase(bVk) == 0) desktop.keysOn.insert(bVk);
-  const char typed = Typed(bVk);
-  const std::uint32_t characterMessage = typed == '\0' ? 0 : system ? WM_SYSCHAR : WM_CHAR;
-  Queue(system ? WM_SYSKEYDOWN : WM_KEYDOWN, bVk, characterMessage, typed);
+  KeyEvent(dwExtraInfo == 0, bVk, dwFlags);
 }
 
 std::int16_t VkKeyScanA(char ch) {
@@ -136,8 +160,8 @@ std::int16_t VkKeyScanA(char ch) {
 void TypeCharacter(char ch) {
   InputLog().push_back(std::string("TypeCharacter ") + ch);
   constexpr std::uint8_t kPacket = 231;  // the key that stands for any character
-  Queue(WM_KEYDOWN, kPacket, WM_CHAR, ch);
-  Queue(WM_KEYUP, kPacket);
+  Enqueue(true, WM_KEYDOWN, kPacket, WM_CHAR, ch);
+  Enqueue(true, WM_KEYUP, kPacket);
 }
 
 std::int16_t GetAsyncKeyState(std::int32_t vKey) { return Down(static_cast<std::uint8_t>(vKey)) ? INT16_MIN : 0; }
@@ -147,10 +171,61 @@ std::int16_t GetKeyState(std::int32_t nVirtKey) {
   return static_cast<std::int16_t>((Down(key) ? INT16_MIN : 0) | (On(key) ? 1 : 0));
 }
 
-bool WaitForKeys() {
-  RunOtherProcesses();
-  const Window* front = Find(Foreground());
-  return front == nullptr || front->process != kOwnProcess;
+struct KeyReceiver::Queue {
+  std::int32_t window = 0;  // of another process
+  std::uint32_t process = 0;
+  const std::int64_t start = Clock();
+  std::int64_t pumped = start;  // when the program was to handle its messages
+
+  bool MustPump() {
+    constexpr std::int64_t kPatience = 5000, kBetweenPumps = 100;  // milliseconds
+    if (Clock() - start < kPatience || Clock() - pumped < kBetweenPumps) return false;
+    pumped = Clock();
+    return true;
+  }
+
+  bool HasGone() const {
+    const auto& windows = TheDesktop().windows;
+    return std::none_of(windows.begin(), windows.end(), [&](const auto& w) { return w.second.process == process; });
+  }
+
+  template <class Done>
+  bool Wait(Done done) {
+    if (process == 0 || process == kOwnProcess) return true;
+    RunOtherProcesses();
+    while (!HasGone()) {
+      if (MustPump()) return false;
+      if (done()) break;
+      Sleep(10);
+    }
+    return true;
+  }
+
+  bool HasKeys() const { return std::ranges::count(TheDesktop().keys, process, &KeyInput::process) != 0; }
+};
+
+KeyReceiver::KeyReceiver() : queue_(std::make_unique<Queue>()) {}
+KeyReceiver::~KeyReceiver() = default;
+
+bool KeyReceiver::Follow() {
+  if (IsOwn() && Exists(queue_->window)) Activate(queue_->window);
+  const Window* front = Find(TheDesktop().foreground);
+  const std::uint32_t process = front == nullptr ? 0 : front->process;
+  if (process != kOwnProcess) queue_->window = TheDesktop().foreground;
+  return std::exchange(queue_->process, process) != process;
+}
+
+bool KeyReceiver::Took(std::uint8_t /*bVk*/, bool /*down*/) {
+  return queue_->Wait([this] { return !queue_->HasKeys(); });
+}
+
+bool KeyReceiver::TookAll() {
+  return queue_->Wait([this] { return !queue_->HasKeys() && !IsBusy(queue_->process); });
+}
+
+bool KeyReceiver::IsOwn() const {
+  const Window* front = Find(TheDesktop().foreground);
+  return front != nullptr && front->process == kOwnProcess;
 }
 
 bool AttachThreadInput(std::uint32_t idAttach, std::uint32_t idAttachTo, bool fAttach) {

@@ -1,8 +1,11 @@
 #include "platform/messages.h"
 
 #include <algorithm>
+#include <set>
 
+#include "platform/input.h"
 #include "platform/simulated/state.h"
+#include "platform/system.h"
 
 namespace platform {
 namespace simulated {
@@ -25,31 +28,44 @@ std::int32_t PLATFORM_CALLBACK WindowProcedure(std::int32_t hWnd, std::uint32_t 
   return Exists(hWnd) ? ClassProcedure(hWnd, delivery.message, delivery.buffer) : 0;
 }
 
-// Takes the first posted message whose window fits, and forgets those of windows that are gone.
+// Takes the first posted message whose window fits and is not busy, and forgets those of windows that are gone.
 template <class Fits>
 std::optional<Posted> TakePosted(Fits fits) {
   auto& posted = TheDesktop().posted;
   std::erase_if(posted, [](const Posted& p) { return !Exists(p.hWnd); });
-  const auto found = std::find_if(posted.begin(), posted.end(), [&](const Posted& p) { return fits(At(p.hWnd)); });
+  const auto found = std::find_if(posted.begin(), posted.end(),
+                                  [&](const Posted& p) { return fits(At(p.hWnd)) && !IsBusy(At(p.hWnd).process); });
   if (found == posted.end()) return std::nullopt;
   const Posted first = *found;
   posted.erase(found);
   return first;
 }
 
-// Takes the first key if the window that has the focus fits; its character is posted to the same window. A key that
-// nobody can get is lost.
+bool IsModifier(std::int32_t key) { return key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU; }
+
+// Takes the first key of its queue whose window fits; its character is posted to the same window. A key that nobody can
+// get is lost.
 template <class Fits>
 std::optional<Posted> TakeKey(Fits fits) {
   auto& keys = TheDesktop().keys;
-  if (keys.empty()) return std::nullopt;
-  const std::int32_t focus = Focus();
-  if (focus == 0) keys.clear();
-  if (focus == 0 || !fits(At(focus))) return std::nullopt;
-  const KeyInput first = keys.front();
-  keys.pop_front();
-  if (first.character.number != 0) TheDesktop().posted.push_back({focus, first.character});
-  return Posted{focus, first.key};
+  std::erase_if(keys, [](const KeyInput& key) { return FocusOf(key.process) == 0; });
+  std::set<std::uint32_t> held;  // queues whose first key is not to be taken now
+  for (auto key = keys.begin(); key != keys.end(); ++key) {
+    const std::uint32_t queue = QueueOf(key->process);
+    if (held.contains(queue)) continue;
+    const std::int32_t focus = FocusOf(key->process);
+    if (!fits(At(focus)) || IsBusy(key->process)) {
+      held.insert(queue);
+      continue;
+    }
+    const KeyInput taken = *key;
+    keys.erase(key);
+    const bool down = taken.key.number == WM_KEYDOWN || taken.key.number == WM_SYSKEYDOWN;
+    if (down && !IsModifier(taken.key.wParam)) Occupy(focus, At(focus).keyTime);
+    if (taken.character.number != 0) TheDesktop().posted.push_back({focus, taken.character});
+    return Posted{focus, taken.key};
+  }
+  return std::nullopt;
 }
 
 // What is posted comes before what is typed.
@@ -63,12 +79,31 @@ void HandleQueues(Fits fits) {
   }
 }
 
+// Lets time pass until a process has come to answer a message; the keys in its queue wait meanwhile.
+void WaitForAnswer(std::uint32_t process) {
+  Desktop& desktop = TheDesktop();
+  const auto asked = desktop.asked.insert(process);
+  struct Done {
+    Desktop& desktop;
+    std::multiset<std::uint32_t>::iterator asked;
+    ~Done() { desktop.asked.erase(asked); }
+  } done{desktop, asked};
+  const auto free = desktop.busyUntil.find(process);
+  while (free != desktop.busyUntil.end() && free->second > desktop.clock)
+    Sleep(static_cast<std::int32_t>(free->second - desktop.clock));
+}
+
 std::int32_t Send(std::int32_t hWnd, Message message, TextBuffer* buffer = nullptr) {
   const Window* window = Find(hWnd);
   if (window == nullptr || Fails("SendMessageA")) return 0;
+  const std::uint32_t process = window->process;
+  if (process == kOwnProcess) return Deliver(hWnd, std::move(message), buffer);
   // The other process has been running all the time: what is in its queue came first.
-  if (window->process != kOwnProcess) RunOtherProcesses(window->process);
-  return Deliver(hWnd, std::move(message), buffer);
+  RunOtherProcesses(process);
+  WaitForAnswer(process);
+  const std::int32_t answer = Deliver(hWnd, std::move(message), buffer);
+  WaitForAnswer(process);
+  return answer;
 }
 
 }  // namespace
@@ -86,7 +121,23 @@ std::int32_t Deliver(std::int32_t hWnd, Message message, TextBuffer* buffer) {
     std::vector<Delivery*>& deliveries;
     ~Done() { deliveries.pop_back(); }
   } done{deliveries};
+  const bool isKey = delivery.message.number >= WM_KEYDOWN && delivery.message.number <= WM_SYSCHAR;
+  if (!isKey) Occupy(hWnd, window->messageTime);
   return procedure(hWnd, delivery.message.number, delivery.message.wParam, delivery.message.lParam);
+}
+
+void Occupy(std::int32_t hWnd, std::int32_t milliseconds) {
+  if (milliseconds <= 0) return;
+  std::int64_t& until = TheDesktop().busyUntil[At(hWnd).process];
+  until = std::max(until, Clock()) + milliseconds;
+  // What waits is handled then.
+  Schedule(static_cast<std::int32_t>(until - Clock()), [] {});
+}
+
+bool IsBusy(std::uint32_t process) {
+  const Desktop& desktop = TheDesktop();
+  const auto until = desktop.busyUntil.find(process);
+  return desktop.asked.contains(process) || (until != desktop.busyUntil.end() && until->second > desktop.clock);
 }
 
 void HandleOwnMessages() {

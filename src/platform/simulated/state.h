@@ -36,8 +36,9 @@ struct Posted {
   Message message;
 };
 
-// A key on its way, and the message for the character that it types (number 0 for none).
+// A key in the queue of a process, and the message for the character that it types (number 0 for none).
 struct KeyInput {
+  std::uint32_t process = 0;
   Message key;
   Message character;
 };
@@ -137,8 +138,10 @@ struct Desktop {
   std::map<std::uint32_t, std::int32_t> focus;  // of each process
   std::set<std::pair<std::uint32_t, std::uint32_t>> joinedThreads;
   std::set<std::uint8_t> keysDown;
-  std::set<std::uint8_t> keysOn;  // such as Caps Lock
-  std::deque<KeyInput> keys;      // on their way to whatever has the focus when they arrive
+  std::set<std::uint8_t> keysOn;                    // such as Caps Lock
+  std::deque<KeyInput> keys;                        // of all queues, in the order in which they were pressed
+  std::map<std::uint32_t, std::int64_t> busyUntil;  // of each process
+  std::multiset<std::uint32_t> asked;               // processes whose answer to a message is waited for
   std::vector<HotKey> hotKeys;
   std::optional<TrayIcon> tray;
   std::vector<TrayCall> trayCalls;
@@ -182,6 +185,13 @@ std::int32_t Deliver(std::int32_t hWnd, Message message, TextBuffer* buffer = nu
 
 // What the window's class does with a message.
 std::int32_t ClassProcedure(std::int32_t hWnd, const Message& message, TextBuffer* buffer);
+
+// The window that has the focus in the queue of a process; 0 for none.
+std::int32_t FocusOf(std::uint32_t process);
+// Whether keys for a process wait behind those of other ones, in the order of queues that are joined.
+std::uint32_t QueueOf(std::uint32_t process);
+// Whether a process works at something, or answers a message first.
+bool IsBusy(std::uint32_t process);
 
 // Handles what is posted to the windows of other processes, of one process alone where it is given.
 void RunOtherProcesses(std::optional<std::uint32_t> process = std::nullopt);

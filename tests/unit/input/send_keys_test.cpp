@@ -1,7 +1,8 @@
 // The sender of key strings, by what arrives in another program's window.
 #include "input/send_keys.h"
 
-#include "forms/simulated/user.h"
+#include "engine/state.h"
+#include "forms/form.h"
 #include "frame/frmStatus.h"
 #include "platform/input.h"
 #include "platform/messages.h"
@@ -150,6 +151,94 @@ TEST_F(SendKeysTest, AKeyThatClosesTheWindowSendsTheRestToTheNextOne) {
   SendKeys("a~b");
   EXPECT_FALSE(Exists(window_));
   EXPECT_EQ(TypedText(next), "b");
+}
+
+TEST_F(SendKeysTest, ASlowWindowGetsAllKeysInOrderBeforeTheCallReturns) {
+  At(window_).keyTime = 300;
+  const auto before = Clock();
+  SendKeys("Die GmbH & Co zahlt 12,50");
+  EXPECT_EQ(TypedText(window_), "Die GmbH & Co zahlt 12,50");
+  EXPECT_GE(Clock() - before, 25 * 300);
+}
+
+TEST_F(SendKeysTest, AHeldModifierLastsOverTheHandlingOfMessages) {
+  At(window_).keyTime = 300;
+  SendKeys("+(abcdefghijklmnopqrstuvwxyz)");
+  EXPECT_EQ(TypedText(window_), "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+}
+
+TEST_F(SendKeysTest, ADialogOfItsOwnThatComesUpMeanwhileGetsNone) {
+  basMain::frmStatus.Show();
+  Activate(window_);
+  At(window_).keyTime = 300;
+  Schedule(1'000, [] { Activate(basMain::frmStatus.hWnd()); });
+  SendKeys("abcdefgh");
+  EXPECT_EQ(TypedText(window_), "abcdefgh");
+  EXPECT_EQ(Foreground(), window_);
+}
+
+// A window whose F5 takes 12 seconds, with the status dialog shown beside it.
+class HangingTargetTest : public SendKeysTest {
+ protected:
+  HangingTargetTest() {
+    basMain::frmStatus.Show();
+    Activate(window_);
+    At(window_).procedure = [this](const Message& message) -> std::optional<std::int32_t> {
+      if (message.number == platform::WM_KEYDOWN && message.wParam == platform::VK_F1 + 4) Occupy(window_, 12'000);
+      return std::nullopt;
+    };
+  }
+
+  // The user clicks "Abbrechen"; the click takes effect when the program handles its messages.
+  static void ClickCancelAt(std::int32_t milliseconds) {
+    Schedule(milliseconds, [] {
+      platform::PostMessageA(basMain::frmStatus.hWnd(), platform::WM_COMMAND, 0,
+                             basMain::frmStatus.cmdCancel.now.handle);
+    });
+  }
+};
+
+TEST_F(HangingTargetTest, AHandlerIsWaitedForHoweverLongItTakes) {
+  SendKeys("{F5}xyb");
+  EXPECT_GE(Clock(), 12'000);
+  EXPECT_EQ(TypedText(window_), "xyb");
+  EXPECT_TRUE(basMain::frmStatus.Visible());
+}
+
+TEST_F(HangingTargetTest, ACancelDuringTheWaitEndsItAndTheRestIsNotSent) {
+  ClickCancelAt(6'000);
+  SendKeys("{F5}xyb~");
+  EXPECT_TRUE(basMain::run.StopRun);
+  EXPECT_GE(Clock(), 6'000);
+  EXPECT_LT(Clock(), 6'500);
+  platform::Sleep(20'000);
+  EXPECT_EQ(TypedText(window_), "");
+}
+
+TEST_F(HangingTargetTest, MessagesAreHandledAfterFiveSeconds) {
+  ClickCancelAt(1'000);
+  SendKeys("{F5}x");
+  EXPECT_GE(Clock(), 5'000);
+  EXPECT_LT(Clock(), 5'500);
+}
+
+TEST_F(HangingTargetTest, ATargetThatGoesIsNotWaitedFor) {
+  Schedule(2'000, [this] { DestroyWindow(window_); });
+  SendKeys("{F5}x");
+  EXPECT_LT(Clock(), 2'500);
+  EXPECT_FALSE(basMain::run.StopRun);
+}
+
+TEST_F(SendKeysTest, NoKeyOfTheProgramOperatesItsOwnWindowsAndThoseOfAPersonDo) {
+  basMain::frmStatus.Show();
+  Activate(basMain::frmStatus.hWnd());
+  SendKeys("%b");
+  SendKeys("~ b{ESC}");
+  EXPECT_TRUE(basMain::frmStatus.Visible());
+  EXPECT_FALSE(basMain::run.StopRun);
+  PressKey('B');
+  forms::Pump();
+  EXPECT_TRUE(basMain::run.StopRun);
 }
 
 }  // namespace
