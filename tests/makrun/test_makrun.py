@@ -39,6 +39,24 @@ class MakrunTest(unittest.TestCase):
     def desktop(self, text):
         return ["--desktop", self.file("test.desktop", text, "utf-8")]
 
+    # --- slow controls
+
+    def test_a_control_that_is_slow_with_keys_gets_them_all_before_the_next_verb(self):
+        desktop = self.desktop(
+            'window main "TeRu - 1"\n  class X\n  control Edit 7\n    key-time 300\n'
+            '  control Button 8 "Fertig"\n  on command 8\n    write "C:\\fertig.txt" "{main.7}"\n'
+        )
+        drive = self.folder / "drive"
+        drive.mkdir()
+        macro = self.macro("SENDKEY2=+(abc)d,7,TeRu,Edit", "BUTTONCLICK=8,TeRu,,Fertig,Button", "WAIT=100")
+        self.makrun(*desktop, "--drive", drive, macro)
+        self.assertEqual((drive / "fertig.txt").read_bytes(), b"ABCd\r\n")
+
+    def test_a_control_that_hangs_at_a_key_or_a_message_uses_up_the_time(self):
+        for property, line in [("key-time", "SENDKEY2=ab,7,TeRu,Edit"), ("message-time", "SETTEXT=ab,7,TeRu")]:
+            desktop = self.desktop(f'window main "TeRu - 1"\n  class X\n  control Edit 7\n    {property} 600000\n')
+            self.makrun(*desktop, "--time-limit", "60", self.macro(line, line), status=2)
+
     # --- exit status and output
 
     def test_a_completed_run_prints_its_log_and_ends_with_0(self):

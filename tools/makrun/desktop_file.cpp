@@ -178,6 +178,8 @@ class Loader {
     else if (word == "row") window.rows.push_back({arguments.Texts("the row's cells in double quotes"), 0});
     else if (word == "marked") window.selectionMark = arguments.Number("the number of a row, from 0", 0);
     else if (word == "by-parameter") window.rowFromParameter = true;
+    else if (word == "key-time") window.keyTime = arguments.Number("milliseconds for a key", 0);
+    else if (word == "message-time") window.messageTime = arguments.Number("milliseconds for a message", 0);
     else if (word == "refuses-text") plan.refusesText = true;
     else if (word == "closes-after" && plan.closesOnCommand) plan.closesAfter = arguments.Number("milliseconds", 0);
     else arguments.Mistake("a property of the window, a control or a reaction instead of \"" + word + "\"");
