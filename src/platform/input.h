@@ -90,7 +90,8 @@ class KeyReceiver {
   KeyReceiver(const KeyReceiver&) = delete;
   KeyReceiver& operator=(const KeyReceiver&) = delete;
 
-  // Before each key: goes over to the window that is in front now. True when the receiver does not know which keys are
+  // Before each key: goes over to the window that is in front now, or puts the receiver back where one of the program's
+  // own, which takes no key, has come to the front meanwhile. True when the receiver does not know which keys are
   // down, since it is another one or has been parted meanwhile.
   bool Follow();
 

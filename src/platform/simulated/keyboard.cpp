@@ -172,6 +172,7 @@ std::int16_t GetKeyState(std::int32_t nVirtKey) {
 }
 
 struct KeyReceiver::Queue {
+  std::int32_t window = 0;  // of another process
   std::uint32_t process = 0;
   const std::int64_t start = Clock();
   std::int64_t pumped = start;  // when the program was to handle its messages
@@ -207,8 +208,10 @@ KeyReceiver::KeyReceiver() : queue_(std::make_unique<Queue>()) {}
 KeyReceiver::~KeyReceiver() = default;
 
 bool KeyReceiver::Follow() {
+  if (IsOwn() && Exists(queue_->window)) Activate(queue_->window);
   const Window* front = Find(TheDesktop().foreground);
   const std::uint32_t process = front == nullptr ? 0 : front->process;
+  if (process != kOwnProcess) queue_->window = TheDesktop().foreground;
   return std::exchange(queue_->process, process) != process;
 }
 

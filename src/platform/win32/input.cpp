@@ -253,8 +253,11 @@ KeyReceiver::~KeyReceiver() {
 
 bool KeyReceiver::Follow() {
   Queue& queue = *queue_;
+  const DWORD me = ::GetCurrentThreadId();
+  // A dialog of the program's own may come up late, or be clicked on.
+  if (ForegroundThread() == me && queue.thread != 0 && ::IsWindow(queue.window)) ::SetForegroundWindow(queue.window);
   const DWORD thread = ForegroundThread();
-  const bool own = thread == ::GetCurrentThreadId();
+  const bool own = thread == me;
   if (const DWORD receiver = own ? 0 : thread; receiver != queue.thread) {
     if (queue.joinedHere) queue.Part();
     queue.thread = receiver;

@@ -4,7 +4,7 @@
 //
 // The window "Langsames Fenster" has an edit field (id 7) and a button "Fertig" (id 8). The field writes down each
 // character when it has worked at it ("Zeichen 97"), F5 when its handler begins and ends, and the button what stands in
-// the field when it is pressed ("Fertig: abc").
+// the field when it is pressed ("Fertig: abc"), which then is empty and has the focus.
 #include <windows.h>
 
 #include <cstdlib>
@@ -51,6 +51,8 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         char text[200] = "";
         GetWindowTextA(field, text, sizeof text);
         Journal(std::string("Fertig: ") + text);
+        SetWindowTextA(field, "");
+        SetFocus(field);
       }
       return 0;
     case WM_SETFOCUS:

@@ -167,6 +167,16 @@ TEST_F(SendKeysTest, AHeldModifierLastsOverTheHandlingOfMessages) {
   EXPECT_EQ(TypedText(window_), "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
 }
 
+TEST_F(SendKeysTest, ADialogOfItsOwnThatComesUpMeanwhileGetsNone) {
+  basMain::frmStatus.Show();
+  Activate(window_);
+  At(window_).keyTime = 300;
+  Schedule(1'000, [] { Activate(basMain::frmStatus.hWnd()); });
+  SendKeys("abcdefgh");
+  EXPECT_EQ(TypedText(window_), "abcdefgh");
+  EXPECT_EQ(Foreground(), window_);
+}
+
 // A window whose F5 takes 12 seconds, with the status dialog shown beside it.
 class HangingTargetTest : public SendKeysTest {
  protected:
