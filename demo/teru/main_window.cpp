@@ -62,7 +62,7 @@ void AddControls(HWND window) {
 // The caption ends in the module that the user works in.
 void ShowModule(HWND window, const std::string& name) {
   const std::string caption = TextOf(window);
-  SetWindowTextA(window, (caption.substr(0, caption.rfind('/') + 1) + " " + name).c_str());
+  SetWindowTextA(window, (caption.substr(0, caption.rfind('/') + 1) + name).c_str());
 }
 
 LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
