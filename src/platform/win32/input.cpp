@@ -19,6 +19,10 @@ namespace {
 // Threads whose input queue is joined with that of this thread.
 std::set<DWORD> joinedThreads;
 
+// The window that the program has brought to the front last, and when.
+HWND broughtToFront = nullptr;
+DWORD broughtAt = 0;
+
 DWORD ForegroundThread() { return ::GetWindowThreadProcessId(::GetForegroundWindow(), nullptr); }
 
 // Two ways to type a character that has no key. Only the newer systems of the NT family know the first.
@@ -148,6 +152,11 @@ void TypeCharacter(char ch) {
 std::int16_t GetAsyncKeyState(std::int32_t vKey) { return ::GetAsyncKeyState(vKey); }
 std::int16_t GetKeyState(std::int32_t nVirtKey) { return ::GetKeyState(nVirtKey); }
 
+void NoteFront(std::int32_t hWnd) {
+  broughtToFront = HandleOf<HWND>(hWnd);
+  broughtAt = ::GetTickCount();
+}
+
 struct KeyReceiver::Queue {
   HWND window = nullptr;
   DWORD thread = 0;        // 0: nobody, or the program itself
@@ -254,8 +263,10 @@ KeyReceiver::~KeyReceiver() {
 bool KeyReceiver::Follow() {
   Queue& queue = *queue_;
   const DWORD me = ::GetCurrentThreadId();
-  // A dialog of the program's own may come up late, or be clicked on.
-  if (ForegroundThread() == me && queue.thread != 0 && ::IsWindow(queue.window)) ::SetForegroundWindow(queue.window);
+  // Some window managers let a dialog that was made before come up later, and a user may click on one meanwhile.
+  constexpr DWORD kLate = 3000;  // milliseconds
+  if (queue.thread == 0 && ::GetTickCount() - broughtAt < kLate) queue.window = broughtToFront;
+  if (ForegroundThread() == me && ::IsWindow(queue.window)) ::SetForegroundWindow(queue.window);
   const DWORD thread = ForegroundThread();
   const bool own = thread == me;
   if (const DWORD receiver = own ? 0 : thread; receiver != queue.thread) {
@@ -266,7 +277,7 @@ bool KeyReceiver::Follow() {
     if (!queue.joined && receiver != 0) queue.Join();
     queue.knowsKeys = false;
   }
-  queue.window = ::GetForegroundWindow();
+  queue.window = own ? nullptr : ::GetForegroundWindow();
   return !std::exchange(queue.knowsKeys, true);
 }
 

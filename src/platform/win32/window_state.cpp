@@ -1,5 +1,7 @@
 #include "platform/window_state.h"
 
+#include "platform/win32/own_keys.h"
+
 // The system's headers come last.
 #include "platform/win32/windows_api.h"
 
@@ -42,6 +44,9 @@ bool SetWindowPlacement(std::int32_t hWnd, const WINDOWPLACEMENT& lpwndpl) {
   return ::SetWindowPlacement(HandleOf<HWND>(hWnd), &placement) != FALSE;
 }
 
-bool SetForegroundWindow(std::int32_t hWnd) { return ::SetForegroundWindow(HandleOf<HWND>(hWnd)) != FALSE; }
+bool SetForegroundWindow(std::int32_t hWnd) {
+  NoteFront(hWnd);
+  return ::SetForegroundWindow(HandleOf<HWND>(hWnd)) != FALSE;
+}
 
 }  // namespace platform
