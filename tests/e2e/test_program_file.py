@@ -53,18 +53,19 @@ IMPORTS = {
     "shell32.dll": {("95", "4"): "Shell_NotifyIconA"},
     "user32.dll": {
         ("95", "3.1"): """
-            AdjustWindowRectEx AppendMenuA AttachThreadInput CallWindowProcA CloseClipboard CreateDialogIndirectParamA
-            CreatePopupMenu CreateWindowExA DefDlgProcA DestroyIcon DestroyMenu DestroyWindow DispatchMessageA DrawTextA
-            EmptyClipboard EnableWindow EnumChildWindows EnumThreadWindows FindWindowA GetActiveWindow GetAsyncKeyState
-            GetClassInfoA GetClassNameA GetClientRect GetClipboardData GetCursorPos GetDC GetDlgCtrlID GetDlgItem
-            GetFocus GetForegroundWindow GetKeyState GetMessageA GetParent GetSystemMetrics GetWindow GetWindowLongA
-            GetWindowPlacement GetWindowRect GetWindowTextA GetWindowTextLengthA GetWindowThreadProcessId InvalidateRect
-            IsChild IsClipboardFormatAvailable IsDialogMessageA IsWindow IsWindowEnabled IsWindowVisible KillTimer
-            LoadCursorA MapVirtualKeyA MessageBoxA OpenClipboard PeekMessageA PostMessageA PostQuitMessage
-            PostThreadMessageA RegisterClassA RegisterHotKey RegisterWindowMessageA ReleaseDC SendMessageA
-            SendMessageTimeoutA SendMessageW SetCursorPos SetFocus SetForegroundWindow SetTimer SetWindowLongA
-            SetWindowPlacement SetWindowPos SetWindowTextA ShowWindow SystemParametersInfoA TrackPopupMenu
-            TranslateMessage UnregisterHotKey UpdateWindow keybd_event mouse_event""",
+            AdjustWindowRectEx AppendMenuA AttachThreadInput CallNextHookEx CallWindowProcA CloseClipboard
+            CreateDialogIndirectParamA CreatePopupMenu CreateWindowExA DefDlgProcA DestroyIcon DestroyMenu DestroyWindow
+            DispatchMessageA DrawTextA EmptyClipboard EnableWindow EnumChildWindows EnumThreadWindows FindWindowA
+            GetActiveWindow GetAsyncKeyState GetClassInfoA GetClassNameA GetClientRect GetClipboardData GetCursorPos
+            GetDC GetDlgCtrlID GetDlgItem GetFocus GetForegroundWindow GetKeyState GetMessageA GetMessageExtraInfo
+            GetParent GetSystemMetrics GetWindow GetWindowLongA GetWindowPlacement GetWindowRect GetWindowTextA
+            GetWindowTextLengthA GetWindowThreadProcessId InvalidateRect IsChild IsClipboardFormatAvailable
+            IsDialogMessageA IsWindow IsWindowEnabled IsWindowVisible KillTimer LoadCursorA MapVirtualKeyA MessageBoxA
+            OpenClipboard PeekMessageA PostMessageA PostQuitMessage PostThreadMessageA RegisterClassA RegisterHotKey
+            RegisterWindowMessageA ReleaseDC SendMessageA SendMessageTimeoutA SendMessageW SetCursorPos SetFocus
+            SetForegroundWindow SetTimer SetWindowLongA SetWindowPlacement SetWindowPos SetWindowTextA SetWindowsHookExA
+            ShowWindow SystemParametersInfoA TrackPopupMenu TranslateMessage UnregisterHotKey UpdateWindow keybd_event
+            mouse_event""",
         ("95", "4"): """
             GetKeyboardLayout GetSysColorBrush LoadImageA MapVirtualKeyExA RegisterClassExA VkKeyScanExA""",
     },
