@@ -153,7 +153,9 @@ def main():
         google_suite(BUILD / "native" / "qumaexp_tests", totals)
         google_suite(BUILD / "native" / "platform_contract_tests", totals)
         run_suite(totals, *python_suite("makrun", ROOT / "tests" / "makrun", 600))
+        google_suite(BUILD / "native" / "makcheck_tests", totals)
         run_suite(totals, *python_suite("benchmarks", ROOT / "tests" / "bench", 600))
+        run_suite(totals, *python_suite("editors", ROOT / "tests" / "editors", 1500))
         first_half.finish(totals)
         # It needs makrun of the native build, and the desktop that the first half has left.
         run_suite(totals, *python_suite("rehearsal", ROOT / "tests" / "rehearsal", 600))

@@ -9,7 +9,11 @@ PACKAGES=(
   g++-mingw-w64-i686-posix
   wine wine32:i386 fonts-wine
   xvfb openbox xdotool x11-utils imagemagick
+  neovim chromium
 )
+# Another Node.js than Debian's serves as well.
+command -v node >/dev/null || PACKAGES+=(nodejs)
+command -v npm >/dev/null || PACKAGES+=(npm)
 LOCALE=de_DE.UTF-8
 
 fail() {

@@ -85,6 +85,7 @@ class DemoMacroTest(ClientRecordTest):
                 *walk,
                 "Der Wert Rößler, Ludwig wurde in der Liste gefunden.",
                 "MSG: Der stille Gesellschafter ist eingetragen.",
+                "Der Fokus wurde gesetzt.",
                 "Die Liste wurde ausgewählt (5)",
                 "Die Liste wurde ausgewählt (3)",
                 "Die Ablage wird gewählt...",
