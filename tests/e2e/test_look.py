@@ -1,6 +1,7 @@
 """How every window of the program looks at two resolutions of the screen. The screenshots stay in build/test/look/."""
 
 import itertools
+import re
 import subprocess
 import unittest
 
@@ -24,6 +25,9 @@ class Look:
     def shoot(self, name, window=None, default=None):
         """Takes a screenshot once the window is painted; of a form of our own, looks at its controls."""
         wait_until(lambda: self.desktop.x_windows_of("."), "a window on the screen")
+        # A window manager with other work maps a window later than the system shows it.
+        if window is not None:
+            self.desktop.x_window(f"^{re.escape(window.text)}$")
         self.desktop.command(["sleep", "0.3"])
         self.desktop.screenshot(RESULTS / "look" / str(self.dpi) / f"{name}.png")
         if window is not None:
