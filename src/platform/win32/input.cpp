@@ -157,6 +157,29 @@ void NoteFront(std::int32_t hWnd) {
   broughtAt = ::GetTickCount();
 }
 
+namespace {
+
+constexpr DWORD kLate = 3000;   // milliseconds
+constexpr DWORD kSettled = 60;  // milliseconds
+
+// The window that was brought to the front lately, when it has stayed there for a while: some window managers let a
+// dialog that was shown before come up later, and a key on its way then is lost.
+HWND SettledFront() {
+  const DWORD me = ::GetCurrentThreadId();
+  if (::GetWindowThreadProcessId(broughtToFront, nullptr) == me) return nullptr;
+  const DWORD start = ::GetTickCount();
+  for (DWORD since = start; ::GetTickCount() - since < kSettled && ::GetTickCount() - start < kLate;) {
+    AnswerSentMessages();
+    ::Sleep(5);
+    if (ForegroundThread() != me || !::IsWindow(broughtToFront)) continue;
+    ::SetForegroundWindow(broughtToFront);
+    since = ::GetTickCount();
+  }
+  return broughtToFront;
+}
+
+}  // namespace
+
 struct KeyReceiver::Queue {
   HWND window = nullptr;
   DWORD thread = 0;        // 0: nobody, or the program itself
@@ -263,9 +286,8 @@ KeyReceiver::~KeyReceiver() {
 bool KeyReceiver::Follow() {
   Queue& queue = *queue_;
   const DWORD me = ::GetCurrentThreadId();
-  // Some window managers let a dialog that was made before come up later, and a user may click on one meanwhile.
-  constexpr DWORD kLate = 3000;  // milliseconds
-  if (queue.thread == 0 && ::GetTickCount() - broughtAt < kLate) queue.window = broughtToFront;
+  if (queue.thread == 0 && ::GetTickCount() - broughtAt < kLate) queue.window = SettledFront();
+  // A user may click on a dialog of the program meanwhile.
   if (ForegroundThread() == me && ::IsWindow(queue.window)) ::SetForegroundWindow(queue.window);
   const DWORD thread = ForegroundThread();
   const bool own = thread == me;
