@@ -43,6 +43,14 @@ def wait_until(condition, what, seconds=PATIENCE, interval=0.05):
         time.sleep(interval)
 
 
+def wait_quietly(condition, seconds, interval=0.05):
+    """The same, but the last value of the condition where the time is up."""
+    deadline = time.monotonic() + seconds
+    while not (value := condition()) and time.monotonic() < deadline:
+        time.sleep(interval)
+    return value
+
+
 def _die_with_parent():
     # In a session of its own, the terminal's Ctrl-C reaches only the parent, which ends its children in order. Should
     # the parent be killed outright, the display goes with it, and with the display every program on it.
