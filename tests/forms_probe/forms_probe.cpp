@@ -403,11 +403,7 @@ int ShowOne(const char* word) {
     look.form.Load();
     look.fill();
     look.form.Show();
-    try {
-      forms::RunMessageLoop();
-    } catch (const runtime::Fault& fault) {
-      Tell(fault.description.c_str());
-    }
+    forms::RunMessageLoop();
     Tell("ended");
     return 0;
   }
