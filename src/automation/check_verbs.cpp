@@ -7,6 +7,7 @@
 #include "engine/standard_handler.h"
 #include "engine/state.h"
 #include "frame/log.h"
+#include "platform/class_names.h"
 #include "platform/messages.h"
 #include "platform/window_lookup.h"
 #include "resources/texts.h"
@@ -42,7 +43,7 @@ bool Clear(std::int32_t control) {
 }
 
 std::int32_t FindBoxByText(std::int32_t hWindow, const std::string& text, std::int32_t id) {
-  for (const char* cls : {"Button", "ThunderRT6CheckBox", "ThunderRT6OptionButton"})
+  for (const char* cls : {"Button", platform::kCheckBoxClass, platform::kOptionButtonClass})
     if (const std::int32_t box = SearchControl(hWindow, text, cls, id)) return box;
   return 0;
 }

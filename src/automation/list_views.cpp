@@ -290,6 +290,4 @@ std::string SetFolderPath(const std::string& window, const std::string& exact, c
   return result;
 }
 
-std::string StripNull(const std::string& text) { return text.substr(0, text.find('\0')); }
-
 }  // namespace basMain

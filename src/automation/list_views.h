@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <string>
 
+#include "runtime/text.h"
+
 namespace basMain {
 
 // "SELECTLIST": selects and focuses row ListIndex, or the row that the user has selected last when InputState is 2, and
@@ -35,7 +37,7 @@ bool GetAnlList(const std::string& column, const std::string& id, const std::str
 // window; the empty text after a fault.
 std::string SetFolderPath(const std::string& window, const std::string& exact, const std::string& path);
 
-// The text in front of its first character of code 0.
-std::string StripNull(const std::string& text);
+// What the list's texts are cut with.
+inline constexpr auto& StripNull = runtime::TrimAtNul;
 
 }  // namespace basMain

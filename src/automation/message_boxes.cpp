@@ -8,6 +8,7 @@
 #include "engine/state.h"
 #include "forms/form.h"
 #include "frame/log.h"
+#include "platform/class_names.h"
 #include "platform/messages.h"
 #include "platform/system.h"
 #include "platform/window_lookup.h"
@@ -57,7 +58,7 @@ std::optional<MessageBoxFound> FindMessageBox(const std::string& title, const st
 
 std::int32_t FindButton(std::int32_t window, const std::string& text) {
   const std::int32_t button = SearchControl(window, text, "Button", 0);
-  return button != 0 ? button : SearchControl(window, text, "ThunderRT6CommandButton", 0);
+  return button != 0 ? button : SearchControl(window, text, platform::kCommandButtonClass, 0);
 }
 
 // A box with neither button is logged as answered with "Ja" as well, and gets the command 0.

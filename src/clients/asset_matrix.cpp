@@ -13,7 +13,6 @@
 #include "environment/discovery.h"
 #include "environment/settings.h"
 #include "frame/log.h"
-#include "platform/system.h"
 #include "runtime/dates.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
@@ -33,13 +32,7 @@ struct Dialog {
   const std::string& text;
 };
 
-// A statement of CreateMatrix: its fault is told and the next one runs.
-template <class Statement>
-void Do(Statement&& statement) {
-  NoteFault("CreateMatrix", std::forward<Statement>(statement));
-}
-
-runtime::DateTime DateOf(const std::string& text) { return runtime::ToDate(text, platform::Now().year); }
+constexpr NoteFault Do{"CreateMatrix"};
 
 MatrixRow& RowAt(std::int32_t index) {
   const auto row = static_cast<std::size_t>(index);

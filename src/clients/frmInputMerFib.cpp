@@ -28,7 +28,7 @@ constexpr std::size_t kName = 2;
 constexpr std::size_t kMonth = 3;
 
 // Digits alone are typed; codes below 40 pass: control keys, the blank, and what stands up to the apostrophe.
-bool TakesKey(unsigned char code) { return code < 40 || (code >= '0' && code <= '9'); }
+bool TakesKey(unsigned char code) { return code < 40 || runtime::IsDigit(static_cast<char>(code)); }
 
 void PresetYear(forms::TextBox& field, const std::string& key) {
   const std::string year = basAPI::ReadIniString(basAPI::SettingsFile(), "MERLA", key, "");

@@ -17,8 +17,7 @@
 #include "frame/log.h"
 #include "input/merla_controls.h"
 #include "input/state.h"
-#include "platform/system.h"
-#include "runtime/dates.h"
+#include "platform/class_names.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
 
@@ -64,14 +63,11 @@ MerMatrixRow& Row(std::size_t index) {
   return clients.MerMatrix[index];
 }
 
+constexpr NoteFault Note{"CreateMerlaMatrix"};
+
 // The reading of one build.
 struct Build {
   std::string id, window, exact, cls, version;
-
-  template <class Statement>
-  static void Note(Statement&& statement) {
-    NoteFault("CreateMerlaMatrix", statement);
-  }
 
   bool Select(std::size_t entry) const { return SelectCombo(true, std::to_string(entry), id, window, exact, "", cls); }
 
@@ -117,17 +113,13 @@ void DropSpareRow() {
   clients.MerMatrix.pop_back();
 }
 
-// A statement of GetMerJahrVonBis.
-template <class Statement>
-void NoteDates(Statement&& statement) {
-  NoteFault("GetMerJahrVonBis", statement);
-}
+constexpr NoteFault NoteDates{"GetMerJahrVonBis"};
 
 // A box that cannot be read is an empty part.
 std::string DateIn(std::int32_t field) {
   const auto box = [&](std::int32_t id) {
     std::string text;
-    NoteDates([&] { text = ReadControlText(SearchChildWindow(field, "", "", kDateBoxClass, id)); });
+    NoteDates([&] { text = ReadControlText(SearchChildWindow(field, "", "", platform::kTextBoxClass, id)); });
     return text;
   };
   const std::string year = box(kYearBox);
@@ -135,8 +127,6 @@ std::string DateIn(std::int32_t field) {
   const std::string month = box(kMonthBox);
   return day + "." + month + "." + year;
 }
-
-runtime::DateTime DateOf(const std::string& text) { return runtime::ToDate(text, platform::Now().year); }
 
 std::int32_t FindYearFrame(const std::string& version) {
   const auto path = ControlPath(kYearFrame, version);
@@ -168,7 +158,7 @@ bool CreateMerlaMatrix(const std::string& id, const std::string& window, const s
     build.Fill(i);
     clients.MerMatrix.emplace_back();
   }
-  Build::Note([] { DropSpareRow(); });
+  Note([] { DropSpareRow(); });
   LogWrite("Matrix erfolgreich aufgebaut");
   return true;
 }
@@ -176,7 +166,7 @@ bool CreateMerlaMatrix(const std::string& id, const std::string& window, const s
 void GetMerJahrVonBis(std::string& from, std::string& to) {
   std::int32_t hFrame = 0;
   NoteDates([&] { hFrame = FindYearFrame(Version()); });
-  FindChildrenOfClass(hFrame, kDateFieldClass, 0);
+  FindChildrenOfClass(hFrame, platform::kUserControlClass, 0);
 
   std::string first;
   std::string second;

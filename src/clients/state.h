@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "runtime/dates.h"
+
 namespace basMain {
 
 // A business year of the asset accounting. Dates are text, day first.
@@ -40,5 +42,8 @@ struct ClientState {
 };
 
 extern ClientState clients;
+
+// The date in the text of a row, of the present year where the text names none. Faults: TypeMismatch for no date.
+runtime::DateTime DateOf(const std::string& text);
 
 }  // namespace basMain

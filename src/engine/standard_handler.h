@@ -1,7 +1,7 @@
 // The standard handler: a fault in a routine becomes the run's error text, and the routine yields false.
 //
-// A few routines tell of their faults without ending: each of their statements stands in NoteFault, and behind a fault
-// the next one runs.
+// A few routines tell of their faults without ending: each of their statements is handed to the
+// NoteFault of the routine, and behind a fault the next one runs.
 #pragma once
 
 #include <string>
@@ -25,13 +25,17 @@ bool Standard(const std::string& routine, Body&& body) {
   }
 }
 
-template <class Statement>
-void NoteFault(const std::string& routine, Statement&& statement) {
-  try {
-    std::forward<Statement>(statement)();
-  } catch (...) {
-    run.LastError = StandardErrorText(routine, runtime::CaughtFault());
+struct NoteFault {
+  const char* routine;
+
+  template <class Statement>
+  void operator()(Statement&& statement) const {
+    try {
+      std::forward<Statement>(statement)();
+    } catch (...) {
+      run.LastError = StandardErrorText(routine, runtime::CaughtFault());
+    }
   }
-}
+};
 
 }  // namespace basMain

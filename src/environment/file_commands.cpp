@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "automation/window_search.h"
+#include "automation/control_address.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"
 #include "environment/file_system.h"
@@ -173,10 +173,7 @@ bool DisplayStatus(const std::string& text, const std::string& value) {
 }
 
 bool CloseWindow(const std::string& window, const std::string& exact) {
-  std::int32_t hWindow = 0;
-  std::int32_t hControl = 0;
-  SearchWindow(window, hWindow, exact == "1", "", "", "0", "", hControl);
-  if (platform::SendMessageA(hWindow, platform::WM_CLOSE, 0, 0) != 0) {
+  if (platform::SendMessageA(FindAddressedWindow({window, exact}), platform::WM_CLOSE, 0, 0) != 0) {
     run.LastError = Text(TextId::WindowNotClosed);
     return false;
   }

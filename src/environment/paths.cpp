@@ -38,8 +38,6 @@ bool CheckFileExists(const std::string& path) {
   return exists;
 }
 
-std::string TrimAtNul(const std::string& text) { return text.substr(0, text.find('\0')); }
-
 std::string SettingsFile() { return JoinPath(platform::ApplicationPath(), "QUMAEXP.INI"); }
 
 }  // namespace basAPI

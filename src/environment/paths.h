@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "runtime/text.h"
+
 namespace basAPI {
 
 // Joins the pieces by single backslashes. One backslash is removed at each end of each piece, but not at the front of
@@ -23,8 +25,7 @@ bool CreatePath(const std::string& path);
 // By a file-system object of its own; a fault counts as false.
 bool CheckFileExists(const std::string& path);
 
-// The part before the first NUL, or all of it.
-std::string TrimAtNul(const std::string& text);
+using runtime::TrimAtNul;
 
 // The settings file beside the program; computed anew at each use.
 std::string SettingsFile();

@@ -9,8 +9,6 @@
 #include "environment/discovery.h"
 #include "environment/paths.h"
 #include "frame/log.h"
-#include "platform/system.h"
-#include "runtime/dates.h"
 #include "runtime/fault.h"
 #include "runtime/format_value.h"
 #include "runtime/text.h"
@@ -28,7 +26,7 @@ constexpr const char* kFixedWords[] = {"\r", "\n", "Die Daten wurden erfolgreich
 std::string FirstDayOfCurrentRow() {
   const auto row = static_cast<std::size_t>(clients.MatrixPos);
   if (row >= clients.Matrix.size()) throw Fault(FaultNumber::OutOfRange);
-  return runtime::FormatValue(runtime::ToDate(clients.Matrix[row].Beginn, platform::Now().year), "ddmmyyyy");
+  return runtime::FormatValue(DateOf(clients.Matrix[row].Beginn), "ddmmyyyy");
 }
 
 // The text between two neighbouring backslashes, the left one counted from the end.

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "automation/control_address.h"
 #include "automation/window_search.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"
@@ -93,9 +94,8 @@ Account FromBrackets(const std::string& caption, std::size_t bracket) {
 
 // "Umsätze BLZ: <bank code> Kto: <account> ..."; with the account missing the access to it is a fault.
 Account FromStatements() {
-  std::int32_t hWindow = 0;
-  std::int32_t ignored = 0;
-  if (!SearchWindow("Umsätze BLZ:", hWindow, false, "", "", "0", "", ignored)) return {};
+  const std::int32_t hWindow = FindAddressedWindow({.window = "Umsätze BLZ:"});
+  if (hWindow == 0) return {};
   const std::string caption = GetWindowTitle(hWindow);
   const std::size_t colon = caption.find(':');
   if (colon == std::string::npos) return {};

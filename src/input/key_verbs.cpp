@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "automation/control_address.h"
 #include "automation/window_search.h"
 #include "forms/form.h"
 #include "frame/log.h"
@@ -47,8 +48,7 @@ bool SendKeyToControl(const std::string& keys, const std::string& id, const std:
 
 bool SendKeyToWindow(const std::string& keys, const std::string& window) {
   std::int32_t hWindow = 0;
-  std::int32_t ignored = 0;
-  Skip([&] { SearchWindow(window, hWindow, false, "", "", "0", "", ignored); });
+  Skip([&] { hWindow = FindAddressedWindow({.window = window}); });
   Skip([&] { forms::Pump(); });
   DeliverKeys(frame.MainWindow, hWindow, 0, keys);
   return Sent(keys);

@@ -11,6 +11,7 @@
 #include "engine/standard_handler.h"
 #include "frame/log.h"
 #include "input/state.h"
+#include "platform/class_names.h"
 #include "platform/messages.h"
 #include "runtime/conversions.h"
 #include "runtime/fault.h"
@@ -44,7 +45,7 @@ class DateControls {
 
 // Reads one box and logs its handle; false when the field has no such box.
 bool ReadBox(std::int32_t field, std::int32_t id, const std::string& word, std::int32_t& hBox, std::string& text) {
-  const std::int32_t box = SearchChildWindow(field, "", "", kDateBoxClass, id);
+  const std::int32_t box = SearchChildWindow(field, "", "", platform::kTextBoxClass, id);
   if (box <= 0) return false;
   text = ReadControlText(box);
   hBox = box;
@@ -90,9 +91,6 @@ void WriteDate(const std::string& date, const DateWriter& writer, const DateCont
 
 }  // namespace
 
-const char* const kDateFieldClass = "ThunderRT6UserControlDC";
-const char* const kDateBoxClass = "ThunderRT6Textbox";
-
 void FindChildrenOfClass(std::int32_t hParent, const std::string& cls, std::int32_t number) {
   EmptyChildWindowList();
   inputRoom.ClassWindows.assign(1, 0);
@@ -111,8 +109,8 @@ bool SetMerlaDate(const std::string& from, const std::string& to, const std::str
   return Standard("SetMerlaDate", [&] {
     std::int32_t ignored = 0;
     std::int32_t hFrame = 0;
-    SearchWindow(window, ignored, true, "", "ThunderRT6Frame", frame, "", hFrame);
-    FindChildrenOfClass(hFrame, kDateFieldClass, 0);
+    SearchWindow(window, ignored, true, "", platform::kFrameClass, frame, "", hFrame);
+    FindChildrenOfClass(hFrame, platform::kUserControlClass, 0);
 
     DateControls controls;
     for (std::ptrdiff_t i = 0; i < std::ssize(inputRoom.ClassWindows); ++i) {

@@ -7,9 +7,7 @@
 
 namespace basMain {
 
-// Class of the date fields, and class and ids of the text boxes in one.
-extern const char* const kDateFieldClass;
-extern const char* const kDateBoxClass;
+// Ids of the text boxes in a date field, which is a user control.
 constexpr std::int32_t kYearBox = 2;
 constexpr std::int32_t kDayBox = 3;
 constexpr std::int32_t kMonthBox = 4;

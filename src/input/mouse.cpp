@@ -8,6 +8,7 @@
 #include "engine/state.h"
 #include "frame/log.h"
 #include "frame/state.h"
+#include "platform/class_names.h"
 #include "platform/input.h"
 #include "platform/system.h"
 #include "platform/window_lookup.h"
@@ -93,7 +94,7 @@ bool MouseClickbyWindowOffset(const std::string& caption, const std::string& but
                               const std::string& yOffset) {
   constexpr char kName[] = "MouseClickbyWindowOffset";
   return Standard(kName, [&] {
-    const std::int32_t window = platform::FindWindowA("ThunderRT6FormDC", caption.c_str());
+    const std::int32_t window = platform::FindWindowA(platform::kFormClass, caption.c_str());
     if (window <= 0) {
       run.LastError = Text(TextId::FunctionFault, kName) + "Fenster konnte nicht gefunden werden.";
       return false;

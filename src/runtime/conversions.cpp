@@ -10,8 +10,6 @@
 namespace runtime {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 bool StandsBetweenDigits(const std::string& text, std::size_t at) {
   return at > 0 && at + 1 < text.size() && IsDigit(text[at - 1]) && IsDigit(text[at + 1]);
 }

@@ -52,7 +52,6 @@ DateTime InRangeOrFault(const year_month_day& day, const DateTime& time, FaultNu
   return WithTimeOf(day, time);
 }
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsLetter(char c) { return ToUpper({&c, 1}) != ToLower({&c, 1}); }
 
 // Reads a date text from left to right. What cannot be read is left standing, so a text is a date when nothing is left.

@@ -106,6 +106,8 @@ std::string_view TakeLine(std::string_view& text) {
   return line;
 }
 
+std::string TrimAtNul(std::string_view text) { return std::string(text.substr(0, text.find('\0'))); }
+
 std::string TruthText(bool value) { return value ? "True" : "False"; }
 
 }  // namespace runtime

@@ -8,6 +8,8 @@
 
 namespace runtime {
 
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
 // Case folding of the code page, umlauts and accented letters included. A letter without a partner (ß) stays.
 std::string ToUpper(std::string_view text);
 std::string ToLower(std::string_view text);
@@ -40,6 +42,9 @@ const std::string& Element(const std::vector<std::string>& pieces, std::size_t i
 
 // Cuts the first line and its end (CR LF, LF or CR) off the text, and yields the line.
 std::string_view TakeLine(std::string_view& text);
+
+// The text in front of its first character of code 0, or all of it.
+std::string TrimAtNul(std::string_view text);
 
 // "True" or "False", the words in which a truth value appears in a text.
 std::string TruthText(bool value);

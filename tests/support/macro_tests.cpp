@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <optional>
 
+#include "common/tool.h"
 #include "engine/run_loop.h"
 #include "engine/state.h"
 #include "platform/simulated/desktop.h"
@@ -33,11 +33,6 @@ struct Expectation {
   int endLine = 0;                    // line of the macro that says how the run ends, else its last one
   std::vector<std::string> settings;  // lines of the settings file
 };
-
-std::string ReadFile(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 // Takes the text behind the word of a comment; false when the line is not such a comment.
 bool Directive(const std::string& line, const std::string& word, std::string& text) {
@@ -85,7 +80,7 @@ class MacroTest : public support::SystemTest {
   explicit MacroTest(fs::path path) : path_(std::move(path)) {}
 
   void TestBody() override {
-    const auto lines = runtime::Split(support::CodePage(ReadFile(path_)), '\n');
+    const auto lines = runtime::Split(support::CodePage(tools::ReadFile(path_)), '\n');
     const Expectation expected = ReadExpectation(lines);
     std::string settings;
     for (const std::string& line : expected.settings) settings += line + "\r\n";

@@ -1,4 +1,5 @@
-// What a macro names, against the windows that are described. Each line is looked up by the routines that its verb runs.
+// What a macro names, against the windows that are described. Each line is looked up by the routines that its verb
+// runs.
 #include <algorithm>
 #include <cstdlib>
 #include <map>
@@ -10,6 +11,7 @@
 #include "automation/window_search.h"
 #include "desktop.h"
 #include "nearest.h"
+#include "platform/class_names.h"
 #include "platform/simulated/desktop.h"
 #include "platform/window_lookup.h"
 #include "rules.h"
@@ -156,7 +158,7 @@ class DesktopRules {
     const auto address = AddressOf();
     if (!address || address->window.empty()) return;
     if (line_->Is("MOUSECLICKBYWINDOWOFFSET")) {
-      if (platform::FindWindowA("ThunderRT6FormDC", address->window.c_str()) == 0) AddUnknownWindow(*address);
+      if (platform::FindWindowA(platform::kFormClass, address->window.c_str()) == 0) AddUnknownWindow(*address);
       return;
     }
     // The window inside the target that has this whole text serves, too.
@@ -167,7 +169,7 @@ class DesktopRules {
     if (hWindow == 0) return AddUnknownWindow(*address);
     if (line_->Is("SETCHECK")) return CheckCheckBox(*address, hWindow);
     if (line_->Is("SETMERLADATE")) {
-      CheckFrame(*address, "ThunderRT6Frame", address->id);
+      CheckFrame(*address, platform::kFrameClass, address->id);
       return;
     }
     const bool classGiven = !ValueOf(ArgumentKind::Class).value_or("").empty();
@@ -215,7 +217,8 @@ class DesktopRules {
     for (const ControlView& control : desktop_.ControlsOf(address.window, address.Exact() || line_->Is("SETMERLADATE")))
       if (std::to_string(control.id) == id && EqualIgnoringCase(control.cls, cls)) return true;
     const auto argument = line_->Is("SETMERLADATE") ? Find(ArgumentKind::Id) : Find(ArgumentKind::FrameId);
-    Add(FindingId::UnknownFrame, argument.value_or(0), {address.window, id + " " + cls, NearestControl(address, id, cls)});
+    Add(FindingId::UnknownFrame, argument.value_or(0),
+        {address.window, id + " " + cls, NearestControl(address, id, cls)});
     return false;
   }
 
@@ -229,7 +232,7 @@ class DesktopRules {
       const std::int32_t hFrame = basMain::FindFrame(hWindow, basMain::NumberOrZero(*frame));
       found = hFrame != 0 && platform::GetDlgItem(hFrame, id) != 0;
     } else {
-      for (const char* cls : {"Button", "ThunderRT6CheckBox", "ThunderRT6OptionButton"})
+      for (const char* cls : {"Button", platform::kCheckBoxClass, platform::kOptionButtonClass})
         found = found || basMain::SearchControl(hWindow, *frame, cls, id) != 0;
     }
     if (!found) AddUnknownControl(address);
@@ -257,8 +260,7 @@ class DesktopRules {
     }
     // A direct child of the window is meant before all others.
     const bool direct = way == Way::DirectThenDeep && platform::GetParent(platform::GetParent(control)) == 0;
-    if (fitting > 1 && !direct && !line_->Is("WAITFORWINDOW"))
-      Add(FindingId::ShadowedControl, IdArgument(), {reached});
+    if (fitting > 1 && !direct && !line_->Is("WAITFORWINDOW")) Add(FindingId::ShadowedControl, IdArgument(), {reached});
   }
 
   void CheckEntry(const Address& address, std::int32_t control) {
@@ -301,9 +303,11 @@ class DesktopRules {
       target = basMain::FindAddressedWindow({*window, address->exact, "", *cls, id});
       if (target == 0) return cls->empty() ? AddUnknownWindow(*address) : AddUnknownControl(*address);
     }
-    if (!cls->empty()) target = basMain::FindControl(target, basMain::NumberOrZero(*menu), {"", "", "", *cls, address->id});
+    if (!cls->empty())
+      target = basMain::FindControl(target, basMain::NumberOrZero(*menu), {"", "", "", *cls, address->id});
     const auto commands = CommandsOf(target);
-    if (std::find(commands.begin(), commands.end(), std::to_string(basMain::NumberOrZero(*menu))) != commands.end()) return;
+    if (std::find(commands.begin(), commands.end(), std::to_string(basMain::NumberOrZero(*menu))) != commands.end())
+      return;
     Add(FindingId::UnknownMenu, 0, {*menu, NearestNumber(*menu, commands)});
   }
 
@@ -319,7 +323,8 @@ class DesktopRules {
   }
 
   void AddUnknownWindow(const Address& address) {
-    Add(FindingId::UnknownWindow, Find(ArgumentKind::Window).value_or(0), {address.window, NearestTitle(address.window)});
+    Add(FindingId::UnknownWindow, Find(ArgumentKind::Window).value_or(0),
+        {address.window, NearestTitle(address.window)});
   }
 
   void AddUnknownControl(const Address& address) {

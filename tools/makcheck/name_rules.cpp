@@ -20,9 +20,10 @@ using runtime::ToUpper;
 constexpr std::string_view kValueVerbs[] = {"VALUE",        "READINI",    "PARSE",    "CSVVALUE",
                                             "FORMATSTRING", "WINVERSION", "READTEXT", "READCOMBOTEXT"};
 // Texts for a reader, in which the name of a variable may be a word like any other.
-constexpr std::string_view kProse[] = {"MSG",         "MESSAGEOUT",   "RAISEERROR",   "DISPLAYSTATUS", "DISPLAY",
-                                       "ADDPROTOCOL", "SHOWINPUTDLG", "SHOWINPUTANL", "VALUE",         "SHOWINPUTMERANL",
-                                       "CONFIRMDIALOG", "WAITFORDIALOG", "IF CONFIRMDIALOG", "SHOWINPUTMERFIB"};
+constexpr std::string_view kProse[] = {
+    "MSG",           "MESSAGEOUT",    "RAISEERROR",       "DISPLAYSTATUS",  "DISPLAY",
+    "ADDPROTOCOL",   "SHOWINPUTDLG",  "SHOWINPUTANL",     "VALUE",          "SHOWINPUTMERANL",
+    "CONFIRMDIALOG", "WAITFORDIALOG", "IF CONFIRMDIALOG", "SHOWINPUTMERFIB"};
 
 template <class Range>
 bool Holds(const Range& range, std::string_view word) {
@@ -30,16 +31,14 @@ bool Holds(const Range& range, std::string_view word) {
 }
 
 bool IsWordCharacter(char c) {
-  return (c >= '0' && c <= '9') || c == '_' || c == '\xDF' ||
+  return runtime::IsDigit(c) || c == '_' || c == '\xDF' ||
          ToUpper(std::string_view(&c, 1)) != runtime::ToLower(std::string_view(&c, 1));
 }
 
 // "Einkommensteuer-Export" is one word to a reader.
 bool JoinsWords(char c) { return c == '-' || IsWordCharacter(c); }
 
-bool IsOddName(const std::string& name) {
-  return name.empty() || name.find_first_of(" ,=()'\"$") != std::string::npos;
-}
+bool IsOddName(const std::string& name) { return name.empty() || name.find_first_of(" ,=()'\"$") != std::string::npos; }
 
 class NameRules {
  public:
@@ -133,7 +132,8 @@ class NameRules {
   void CheckVariableUse(const Line& line, const Argument& argument) {
     if (const Variable* variable = macro_.DeclaredBefore(argument.text, index_); variable != nullptr) {
       if (argument.quoted) Add(FindingId::ArgumentIsVariable, line.PlaceOf(argument), {argument.text});
-      else if (variable->assignments.empty()) Add(FindingId::UnassignedVariable, line.PlaceOf(argument), {argument.text});
+      else if (variable->assignments.empty())
+        Add(FindingId::UnassignedVariable, line.PlaceOf(argument), {argument.text});
       return;
     }
     CheckVariableInText(line, argument);

@@ -21,7 +21,7 @@ constexpr std::string_view kForeignComments[] = {"//", ";", "'", "#", "--", "/*"
 
 bool IsLetterOrDigit(char c) {
   const std::string folded = ToUpper(std::string_view(&c, 1)) + runtime::ToLower(std::string_view(&c, 1));
-  return (c >= '0' && c <= '9') || folded[0] != folded[1] || c == '_' || c == '\xDF';
+  return runtime::IsDigit(c) || folded[0] != folded[1] || c == '_' || c == '\xDF';
 }
 
 bool KnowsVerb(std::string_view text) { return FindVerb(ToUpper(Trim(text))) != nullptr; }
@@ -90,7 +90,8 @@ class Shapes {
     const bool foreign = std::any_of(std::begin(kForeignComments), std::end(kForeignComments),
                                      [&](std::string_view mark) { return text.starts_with(mark); });
     if (!foreign || line.assignment) return false;
-    Add(FindingId::ForeignComment, line.Whole(), {}, {Replacing(index_, {line.Whole().start, line.Whole().start}, "REM ")});
+    Add(FindingId::ForeignComment, line.Whole(), {},
+        {Replacing(index_, {line.Whole().start, line.Whole().start}, "REM ")});
     return true;
   }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "engine/verbs.h"
+#include "platform/class_names.h"
 
 namespace makcheck {
 
@@ -21,20 +22,20 @@ enum class ArgumentKind {
   CommandId,   // carried in 16 bits by a command: up to 32,767
   MenuId,
   FrameId,
-  Window,    // a title
-  Exact,     // "1", or anything else for a part
-  Class,     // of a control
+  Window,  // a title
+  Exact,   // "1", or anything else for a part
+  Class,   // of a control
   FrameClass,
-  Control,   // text of a control
-  Frame,     // id of a frame, or text of a control
-  Title,     // fragment of a title
-  Word,      // one of a few words
+  Control,  // text of a control
+  Frame,    // id of a frame, or text of a control
+  Title,    // fragment of a title
+  Word,     // one of a few words
   File,
-  Pattern,   // a file or a pattern
+  Pattern,  // a file or a pattern
   Folder,
   Destination,  // a folder, with a backslash at its end
   Keys,
-  Entry,     // of a combo box
+  Entry,  // of a combo box
   Mark,
   Unread,
 };
@@ -54,10 +55,17 @@ std::vector<std::string> WordsOf(std::string_view verbWord);
 bool FailsOnOtherWords(std::string_view verbWord);
 
 // Classes of controls that are seen often.
-inline constexpr const char* kClasses[] = {
-    "Button",           "ComboBox",         "STATIC",           "SysListView32",           "ThunderRT6CheckBox",
-    "ThunderRT6ComboBox", "ThunderRT6CommandButton", "ThunderRT6Frame", "ThunderRT6OptionButton", "ThunderRT6Textbox",
-    "ThunderRT6UserControlDC"};
+inline constexpr const char* kClasses[] = {"Button",
+                                           "ComboBox",
+                                           "STATIC",
+                                           "SysListView32",
+                                           platform::kCheckBoxClass,
+                                           platform::kComboBoxClass,
+                                           platform::kCommandButtonClass,
+                                           platform::kFrameClass,
+                                           platform::kOptionButtonClass,
+                                           platform::kTextBoxClass,
+                                           platform::kUserControlClass};
 
 // The verb of a word in upper case; nullptr for none.
 const basMain::Verb* FindVerb(std::string_view word);

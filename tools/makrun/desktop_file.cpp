@@ -11,6 +11,7 @@
 #include "desktop_text.h"
 #include "desktop_texts.h"
 #include "files.h"
+#include "platform/class_names.h"
 #include "platform/messages.h"
 #include "platform/registry.h"
 #include "platform/simulated/desktop.h"
@@ -65,7 +66,7 @@ class Loader {
     if (word == "window" || word == "dialog") {
       const std::string name = ReadName(word, arguments);
       WindowPlan& plan = scene.plans[name];
-      plan.window.className = word == "window" ? "ThunderRT6FormDC" : "#32770";
+      plan.window.className = word == "window" ? platform::kFormClass : "#32770";
       plan.window.text = arguments.Text(Say(say::kTitle));
       arguments.End();
       ReadWindow(statement, plan, true);

@@ -17,6 +17,7 @@
 #include "frame/log.h"
 #include "frame/state.h"
 #include "line_watcher.h"
+#include "platform/class_names.h"
 #include "platform/messages.h"
 #include "platform/shell.h"
 #include "platform/simulated/desktop.h"
@@ -102,7 +103,8 @@ void FillProgramFolder(const Options& options) {
 void PrepareDesktop(const Options& options) {
   if (!options.desktop.empty()) LoadDesktopFile(options.desktop);
   else
-    simulated::Activate(simulated::AddWindow({.className = "ThunderRT6FormDC", .text = ProgramText(options.caption)}));
+    simulated::Activate(
+        simulated::AddWindow({.className = platform::kFormClass, .text = ProgramText(options.caption)}));
   if (!options.clipboard.empty()) simulated::Clipboard() = ProgramText(ReadFile(options.clipboard));
 }
 

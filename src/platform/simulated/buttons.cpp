@@ -1,6 +1,7 @@
 // Push buttons, check boxes and options.
 #include <algorithm>
 
+#include "platform/class_names.h"
 #include "platform/simulated/controls.h"
 #include "runtime/text.h"
 
@@ -12,8 +13,8 @@ using runtime::EqualIgnoringCase;
 constexpr std::uint32_t kKindMask = 15;
 
 std::uint32_t Kind(const Window& window) {
-  if (EqualIgnoringCase(window.className, "ThunderRT6CheckBox")) return BS_AUTOCHECKBOX;
-  if (EqualIgnoringCase(window.className, "ThunderRT6OptionButton")) return BS_AUTORADIOBUTTON;
+  if (EqualIgnoringCase(window.className, kCheckBoxClass)) return BS_AUTOCHECKBOX;
+  if (EqualIgnoringCase(window.className, kOptionButtonClass)) return BS_AUTORADIOBUTTON;
   return window.style & kKindMask;
 }
 
@@ -71,8 +72,7 @@ void ChangeMark(Window& button) {
 }  // namespace
 
 bool IsButton(const Window& window) {
-  constexpr const char* kClasses[] = {"Button", "ThunderRT6CommandButton", "ThunderRT6CheckBox",
-                                      "ThunderRT6OptionButton"};
+  constexpr const char* kClasses[] = {"Button", kCommandButtonClass, kCheckBoxClass, kOptionButtonClass};
   return std::ranges::any_of(kClasses, [&](const char* cls) { return EqualIgnoringCase(window.className, cls); });
 }
 

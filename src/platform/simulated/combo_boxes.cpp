@@ -1,6 +1,7 @@
 // Combo boxes: an edit field or a fixed text over a list of entries.
 #include <algorithm>
 
+#include "platform/class_names.h"
 #include "platform/simulated/controls.h"
 #include "runtime/text.h"
 
@@ -55,7 +56,7 @@ std::int32_t CopyEntry(const std::string& entry, TextBuffer& buffer) {
 }  // namespace
 
 bool IsComboBox(const Window& window) {
-  return EqualIgnoringCase(window.className, "ComboBox") || EqualIgnoringCase(window.className, "ThunderRT6ComboBox");
+  return EqualIgnoringCase(window.className, "ComboBox") || EqualIgnoringCase(window.className, kComboBoxClass);
 }
 
 std::optional<std::int32_t> ComboBoxProcedure(std::int32_t hWnd, const Message& message, TextBuffer* buffer) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "platform/class_names.h"
 #include "runtime/text.h"
 
 namespace platform::simulated {
@@ -10,7 +11,7 @@ namespace {
 
 bool IsEditField(const Window& window) {
   return runtime::EqualIgnoringCase(window.className, "Edit") ||
-         runtime::EqualIgnoringCase(window.className, "ThunderRT6TextBox");
+         runtime::EqualIgnoringCase(window.className, kTextBoxClass);
 }
 
 // A field of one line adds what is typed to its end.

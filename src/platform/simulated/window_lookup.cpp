@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/class_names.h"
 #include "platform/simulated/controls.h"
 #include "platform/system.h"
 #include "runtime/text.h"
@@ -14,7 +15,7 @@ namespace {
 bool KeepsItsText(const Window& window) {
   return window.process != kOwnProcess &&
          (runtime::EqualIgnoringCase(window.className, "Edit") ||
-          runtime::EqualIgnoringCase(window.className, "ThunderRT6Textbox") || IsComboBox(window));
+          runtime::EqualIgnoringCase(window.className, kTextBoxClass) || IsComboBox(window));
 }
 
 std::string TextOf(const Window& window) { return KeepsItsText(window) ? "" : window.text; }

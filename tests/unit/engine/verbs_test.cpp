@@ -1,11 +1,10 @@
 // The table of verbs, and the verbs that the dispatcher carries out itself, as far as a macro cannot show them.
 #include "engine/verbs.h"
 
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
 
+#include "common/tool.h"
 #include "engine/state.h"
 #include "frame/frmStatus.h"
 #include "platform/messages.h"
@@ -159,8 +158,7 @@ TEST(VerbTableTest, EachVerbIsCarriedOutBySomething) {
 
 // The verbs of the guide with their arguments; a row names several verbs that take the same ones.
 std::map<std::string, std::string> VerbsOfTheGuide() {
-  std::ifstream file(SOURCE_DIRECTORY "/docs/macros.md");
-  const std::string guide{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  const std::string guide = tools::ReadFile(SOURCE_DIRECTORY "/docs/macros.md");
   std::map<std::string, std::string> verbs;
   for (const std::string& line : runtime::Split(guide.substr(guide.find("\n## The verbs\n")), '\n')) {
     if (!line.starts_with("| `")) continue;
