@@ -1,18 +1,19 @@
 #include "automation/list_views.h"
 
 #include <array>
+#include <cstddef>
 #include <limits>
+#include <span>
 
 #include "automation/SharedMemory.h"
 #include "automation/control_address.h"
+#include "automation/foreign_block.h"
 #include "automation/state.h"
 #include "clients/state.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"
 #include "frame/log.h"
 #include "platform/messages.h"
-#include "platform/process_memory.h"
-#include "platform/window_lookup.h"
 #include "resources/texts.h"
 #include "runtime/code_page.h"
 #include "runtime/conversions.h"
@@ -23,46 +24,20 @@ namespace {
 
 using resources::Text;
 using resources::TextId;
-using SharedMemory::AllocateForeign;
-using SharedMemory::AllocateShared;
-using SharedMemory::FreeForeign;
-using SharedMemory::FreeShared;
 
 const std::string kListClass = "SysListView32";
 const std::string kUnknown = "<unbekannt>";
 
-// The record of the messages.
-struct ListItem {
-  std::uint32_t mask = 0;
-  std::int32_t iItem = 0;
-  std::int32_t iSubItem = 0;
-  std::uint32_t state = 0;
-  std::uint32_t stateMask = 0;
-  std::int32_t pszText = 0;
-  std::int32_t cchTextMax = 0;
-  std::int32_t iImage = 0;
-  std::int32_t lParam = 0;
-  std::int32_t iIndent = 0;
-};
-static_assert(sizeof(ListItem) == 40);
-
-constexpr std::uint32_t kTextWanted = 1;
-constexpr std::uint32_t kFocusedAndSelected = 3;
+constexpr std::uint32_t kFocusedAndSelected = platform::LVIS_FOCUSED | platform::LVIS_SELECTED;
 
 // The text buffer: 80 characters, of two bytes in the NT family's list and of one byte in the 9x family's.
 constexpr std::int32_t kCharacters = 80;
 using WideBuffer = std::array<char16_t, kCharacters>;
 using NarrowBuffer = std::array<char, kCharacters>;
 
-std::uint32_t ProcessOf(std::int32_t hWnd) {
-  std::uint32_t process = 0;
-  platform::GetWindowThreadProcessId(hWnd, process);
-  return process;
-}
-
-void Write(std::int32_t hProcess, std::int32_t address, const void* data, std::size_t size) {
-  std::uint32_t written = 0;
-  platform::WriteProcessMemory(hProcess, address, data, static_cast<std::uint32_t>(size), written);
+template <class Record>
+std::span<const std::byte> BytesOf(const Record& record) {
+  return std::as_bytes(std::span(&record, 1));
 }
 
 std::int32_t CountRows(std::int32_t list) { return platform::SendMessageA(list, platform::LVM_GETITEMCOUNT, 0, 0); }
@@ -71,35 +46,33 @@ std::int32_t CountRows(std::int32_t list) { return platform::SendMessageA(list, 
 class ForeignCell {
  public:
   explicit ForeignCell(std::int32_t list)
-      : list_(list),
-        record_(AllocateForeign(ProcessOf(list), sizeof(ListItem), recordProcess_)),
-        text_(AllocateForeign(ProcessOf(list), sizeof(WideBuffer), textProcess_)) {}
+      : list_(list), record_(true, list, sizeof(platform::LVITEM)), text_(true, list, sizeof(WideBuffer)) {}
 
-  std::string Read(std::int32_t row, std::int32_t column) {
-    const ListItem item = {
-        .mask = kTextWanted, .iItem = row, .iSubItem = column, .pszText = text_, .cchTextMax = kCharacters};
+  std::string Read(std::int32_t row, std::int32_t column) const {
+    const platform::LVITEM item = {.mask = platform::LVIF_TEXT,
+                                   .iItem = row,
+                                   .iSubItem = column,
+                                   .pszText = text_.Address(),
+                                   .cchTextMax = kCharacters};
     WideBuffer buffer = {};
-    Write(recordProcess_, record_, &item, sizeof item);
-    Write(textProcess_, text_, buffer.data(), sizeof buffer);
+    record_.Write(BytesOf(item));
+    text_.Write(BytesOf(buffer));
     // The row stands in the record alone. The 0 is deliberate: the message is the one that goes by the record.
-    platform::SendMessageA(list_, platform::LVM_GETITEMTEXTW, 0, record_);
-    std::uint32_t read = 0;
-    platform::ReadProcessMemory(textProcess_, text_, buffer.data(), sizeof buffer, read);
+    platform::SendMessageA(list_, platform::LVM_GETITEMTEXTW, 0, record_.Address());
+    text_.Read(std::as_writable_bytes(std::span(buffer)));
     // Only the first 80 of the 160 bytes count.
     return StripNull(runtime::FromUtf16({buffer.data(), kCharacters / 2}));
   }
 
-  void Free() {
-    FreeForeign(recordProcess_, record_, sizeof(ListItem));
-    FreeForeign(textProcess_, text_, sizeof(WideBuffer));
+  void Free() const {
+    record_.Free();
+    text_.Free();
   }
 
  private:
   std::int32_t list_;
-  std::int32_t recordProcess_ = 0;
-  std::int32_t textProcess_ = 0;
-  std::int32_t record_;
-  std::int32_t text_;
+  ForeignBlock record_;
+  ForeignBlock text_;
 };
 
 // A record and a text buffer that every process sees. They are filled once, so the column is always the first and a row
@@ -107,35 +80,29 @@ class ForeignCell {
 class SharedCell {
  public:
   explicit SharedCell(std::int32_t list)
-      : list_(list),
-        record_(AllocateShared(sizeof(ListItem), recordMapping_)),
-        text_(AllocateShared(sizeof(NarrowBuffer), textMapping_)) {
+      : list_(list), record_(false, list, sizeof(platform::LVITEM)), text_(false, list, sizeof(NarrowBuffer)) {
     // Larger than the buffer behind it; the program sets it so.
     constexpr std::int32_t kStatedCharacters = 800;
-    const ListItem item = {.pszText = text_, .cchTextMax = kStatedCharacters};
-    const NarrowBuffer buffer = {};
-    platform::RtlMoveMemory(record_, &item, sizeof item);
-    platform::RtlMoveMemory(text_, buffer.data(), sizeof buffer);
+    record_.Write(BytesOf(platform::LVITEM{.pszText = text_.Address(), .cchTextMax = kStatedCharacters}));
+    text_.Write(BytesOf(NarrowBuffer{}));
   }
 
-  std::string Read(std::int32_t row) {
+  std::string Read(std::int32_t row) const {
     NarrowBuffer buffer = {};
-    platform::SendMessageA(list_, platform::LVM_GETITEMTEXTA, row, record_);
-    platform::RtlMoveMemory(buffer.data(), text_, sizeof buffer);
+    platform::SendMessageA(list_, platform::LVM_GETITEMTEXTA, row, record_.Address());
+    text_.Read(std::as_writable_bytes(std::span(buffer)));
     return StripNull({buffer.data(), buffer.size()});
   }
 
-  void Free() {
-    FreeShared(recordMapping_, record_);
-    FreeShared(textMapping_, text_);
+  void Free() const {
+    record_.Free();
+    text_.Free();
   }
 
  private:
   std::int32_t list_;
-  std::int32_t recordMapping_ = 0;
-  std::int32_t textMapping_ = 0;
-  std::int32_t record_;
-  std::int32_t text_;
+  ForeignBlock record_;
+  ForeignBlock text_;
 };
 
 // True when the text of some row is the value. The row number is 16 bits wide.
@@ -181,21 +148,11 @@ std::string ReadCell(std::int32_t list, std::int32_t row, std::int32_t column) {
 }
 
 // Sends a message whose second parameter is the address of these bytes, in memory that the window's process can reach.
-void SendWithBytes(std::int32_t hWnd, std::uint32_t message, std::int32_t wParam, const void* bytes,
-                   std::int32_t size) {
-  if (SharedMemory::IsWindowsNT()) {
-    std::int32_t process = 0;
-    const std::int32_t address = AllocateForeign(ProcessOf(hWnd), size, process);
-    Write(process, address, bytes, static_cast<std::size_t>(size));
-    platform::SendMessageA(hWnd, message, wParam, address);
-    FreeForeign(process, address, size);
-  } else {
-    std::int32_t mapping = 0;
-    const std::int32_t address = AllocateShared(size, mapping);
-    platform::RtlMoveMemory(address, bytes, static_cast<std::uint32_t>(size));
-    platform::SendMessageA(hWnd, message, wParam, address);
-    FreeShared(mapping, address);
-  }
+void SendWithBytes(std::int32_t hWnd, std::uint32_t message, std::int32_t wParam, std::span<const std::byte> bytes) {
+  const ForeignBlock block(SharedMemory::IsWindowsNT(), hWnd, bytes.size());
+  block.Write(bytes);
+  platform::SendMessageA(hWnd, message, wParam, block.Address());
+  block.Free();
 }
 
 }  // namespace
@@ -214,9 +171,9 @@ bool SelectList(const std::string& id, const std::string& window, const std::str
     if (count <= 0) return false;
     constexpr std::int32_t kCurrentClientOnly = 2;
     if (clients.InputState == kCurrentClientOnly) automation.ListIndex = mark;
-    const ListItem item = {
+    const platform::LVITEM item = {
         .iItem = automation.ListIndex, .state = kFocusedAndSelected, .stateMask = kFocusedAndSelected};
-    SendWithBytes(list, platform::LVM_SETITEMSTATE, automation.ListIndex, &item, sizeof item);
+    SendWithBytes(list, platform::LVM_SETITEMSTATE, automation.ListIndex, BytesOf(item));
     automation.ListCount = count;
     if (automation.ListIndex == std::numeric_limits<std::int32_t>::max())
       throw runtime::Fault(runtime::FaultNumber::Overflow);
@@ -277,13 +234,11 @@ std::string SetFolderPath(const std::string& window, const std::string& exact, c
   Standard("SetFolderPath", [&] {
     const std::int32_t hWindow = FindAddressedWindow({window, exact});
     LogWrite(path);
-    // No NUL is counted: the cleared page ends the path.
-    const auto length = static_cast<std::int32_t>(path.size());
     // A block that nobody uses or frees; the program keeps it so. The 9x family, which has none to give, goes on.
-    std::int32_t givenUp = 0;
-    runtime::Skip([&] { AllocateForeign(ProcessOf(hWindow), length, givenUp); });
+    runtime::Skip([&] { ForeignBlock(true, hWindow, path.size()); });
     constexpr std::int32_t kIsPath = -1;
-    SendWithBytes(hWindow, platform::BFFM_SETSELECTIONA, kIsPath, path.data(), length);
+    // No NUL is counted: the cleared page ends the path.
+    SendWithBytes(hWindow, platform::BFFM_SETSELECTIONA, kIsPath, std::as_bytes(std::span(path)));
     result = runtime::TruthText(true);
     return true;
   });

@@ -39,7 +39,25 @@ constexpr std::uint32_t CB_SETCURSEL = 334;
 constexpr std::int16_t CBN_SELCHANGE = 1;
 constexpr std::int16_t CBN_SELENDOK = 9;
 
-// List views. The record of a message lies in memory that the list's process can reach (process_memory.h).
+// List views. The record of a message lies in memory that the list's process can reach (process_memory.h); the address
+// of its text, too.
+struct LVITEM {
+  std::uint32_t mask = 0;  // which of the fields are meant
+  std::int32_t iItem = 0;
+  std::int32_t iSubItem = 0;
+  std::uint32_t state = 0;
+  std::uint32_t stateMask = 0;
+  std::int32_t pszText = 0;
+  std::int32_t cchTextMax = 0;  // characters, a NUL included
+  std::int32_t iImage = 0;
+  std::int32_t lParam = 0;
+  std::int32_t iIndent = 0;
+};
+static_assert(sizeof(LVITEM) == 40);
+
+constexpr std::uint32_t LVIF_TEXT = 1;
+constexpr std::uint32_t LVIS_FOCUSED = 1;
+constexpr std::uint32_t LVIS_SELECTED = 2;
 constexpr std::uint32_t LVM_GETITEMCOUNT = 4100;
 constexpr std::uint32_t LVM_SETITEMSTATE = 4139;
 constexpr std::uint32_t LVM_GETITEMTEXTA = 4141;

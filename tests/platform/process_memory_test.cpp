@@ -77,6 +77,14 @@ TEST_F(ProcessMemory, BlockIsAWholePage) {
   EXPECT_TRUE(Free(block));
 }
 
+TEST_F(ProcessMemory, CopiesLeaveTheBytesBehindTheBlockAlone) {
+  const std::int32_t block = Allocate(40);
+  EXPECT_TRUE(Write(block + 40, "GUARD"));
+  EXPECT_TRUE(Write(block, std::string(40, 'x')));
+  EXPECT_EQ(Read(block, 45), std::string(40, 'x') + "GUARD");
+  EXPECT_TRUE(Free(block));
+}
+
 TEST_F(ProcessMemory, BlockIsReleasedAsAWholeAlone) {
   const std::int32_t block = Allocate(40);
   EXPECT_FALSE(Free(block, 40));
@@ -187,13 +195,7 @@ TEST_F(Mappings, NothingIsCopiedToOrFromAddressZero) {
 // The record of a list view's messages in the memory of its process.
 class ListMessages : public ProcessMemory {
  protected:
-  struct Record {
-    std::uint32_t mask = 0;
-    std::int32_t iItem = 0, iSubItem = 0;
-    std::uint32_t state = 0, stateMask = 0;
-    std::int32_t pszText = 0, cchTextMax = 0, iImage = 0, lParam = 0, iIndent = 0;
-  };
-  static_assert(sizeof(Record) == 40);
+  using Record = platform::LVITEM;
 
   void SetUp() override {
     ProcessMemory::SetUp();

@@ -7,6 +7,7 @@
 #include "common/tool.h"
 #include "desktop_texts.h"
 #include "files.h"
+#include "platform/messages.h"
 #include "platform/simulated/desktop.h"
 #include "runtime/code_page.h"
 #include "runtime/text.h"
@@ -141,7 +142,7 @@ Action ActionReader::ClearRows(Arguments& arguments) const {
 
 Action ActionReader::SelectRows(Arguments& arguments) const {
   return OnWindow(ReadTarget(arguments), [](simulated::Window& window) {
-    for (simulated::ListRow& row : window.rows) row.state |= simulated::LVIS_SELECTED;
+    for (simulated::ListRow& row : window.rows) row.state |= platform::LVIS_SELECTED;
   });
 }
 

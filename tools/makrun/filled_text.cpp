@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "platform/messages.h"
 #include "platform/simulated/desktop.h"
 
 namespace makrun {
@@ -25,7 +26,7 @@ std::string Shown(const simulated::Window& window) {
 // The cell of the first selected row, by its column from 0; empty without one.
 std::string SelectedCell(const simulated::Window& list, std::size_t column) {
   for (const simulated::ListRow& row : list.rows)
-    if ((row.state & simulated::LVIS_SELECTED) != 0) return column < row.columns.size() ? row.columns[column] : "";
+    if ((row.state & platform::LVIS_SELECTED) != 0) return column < row.columns.size() ? row.columns[column] : "";
   return "";
 }
 

@@ -51,13 +51,9 @@ constexpr std::uint32_t LVS_SINGLESEL = 4;
 // What the file dialog tells when the chosen file has another extension than the default one.
 constexpr std::uint32_t OFN_EXTENSIONDIFFERENT = 0x400;
 
-// The states of a list row.
-constexpr std::uint32_t LVIS_FOCUSED = 1;
-constexpr std::uint32_t LVIS_SELECTED = 2;
-
 struct ListRow {
   std::vector<std::string> columns = {};
-  std::uint32_t state = 0;
+  std::uint32_t state = 0;  // of LVIS_FOCUSED and LVIS_SELECTED
 };
 
 struct Window {

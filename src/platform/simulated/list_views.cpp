@@ -10,19 +10,8 @@
 namespace platform::simulated {
 namespace {
 
-constexpr std::uint32_t kTextWanted = 1;
-
-// The system's record, ten fields of 32 bits.
-struct ListItem {
-  std::uint32_t mask;
-  std::int32_t iItem, iSubItem;
-  std::uint32_t state, stateMask;
-  std::int32_t pszText, cchTextMax, iImage, lParam, iIndent;
-};
-static_assert(sizeof(ListItem) == 40);
-
-std::optional<ListItem> RecordOf(const Window& list, std::int32_t address) {
-  ListItem record;
+std::optional<LVITEM> RecordOf(const Window& list, std::int32_t address) {
+  LVITEM record;
   if (!ReadMemory(list.process, address, &record, sizeof record)) return std::nullopt;
   return record;
 }
@@ -39,20 +28,20 @@ std::string CellText(const Window& list, std::int32_t row, std::int32_t column) 
 
 // Puts the text, cut to the record's room, and a NUL into the record's buffer.
 template <class Text>
-bool GiveText(const Window& list, const ListItem& record, Text text) {
+bool GiveText(const Window& list, const LVITEM& record, Text text) {
   if (record.cchTextMax <= 0) return false;
   text = text.substr(0, static_cast<std::size_t>(record.cchTextMax) - 1);
   return WriteMemory(list.process, record.pszText, text.c_str(), (text.size() + 1) * sizeof(text[0]));
 }
 
-bool GetItemW(const Window& list, std::int32_t parameter, const ListItem& record) {
+bool GetItemW(const Window& list, std::int32_t parameter, const LVITEM& record) {
   const std::int32_t row = list.rowFromParameter ? parameter : record.iItem;
   if (!HasRow(list, row)) return false;
-  return (record.mask & kTextWanted) == 0 ||
+  return (record.mask & LVIF_TEXT) == 0 ||
          GiveText(list, record, runtime::ToUtf16(CellText(list, row, record.iSubItem)));
 }
 
-std::int32_t GetItemTextA(const Window& list, std::int32_t row, const ListItem& record) {
+std::int32_t GetItemTextA(const Window& list, std::int32_t row, const LVITEM& record) {
   if (!HasRow(list, row)) return 0;
   const std::string text = CellText(list, row, record.iSubItem);
   if (!GiveText(list, record, text)) return 0;
@@ -63,13 +52,13 @@ void TakeStateFromAll(Window& list, std::uint32_t state) {
   for (ListRow& row : list.rows) row.state &= ~state;
 }
 
-void ChangeState(ListRow& row, const ListItem& record) {
+void ChangeState(ListRow& row, const LVITEM& record) {
   row.state = (row.state & ~record.stateMask) | (record.state & record.stateMask);
 }
 
 bool IsSelected(const ListRow& row) { return (row.state & LVIS_SELECTED) != 0; }
 
-bool SetStateOfAll(Window& list, const ListItem& record) {
+bool SetStateOfAll(Window& list, const LVITEM& record) {
   const std::uint32_t set = record.state & record.stateMask;
   const bool single = (list.style & LVS_SINGLESEL) != 0;
   if ((set & LVIS_FOCUSED) != 0 || (single && (set & LVIS_SELECTED) != 0)) return false;
@@ -79,7 +68,7 @@ bool SetStateOfAll(Window& list, const ListItem& record) {
 
 // One row can have the focus, and in a list of single selection one can be selected. The first selection is marked;
 // later ones move the mark only when the user makes them.
-bool SetStateOfRow(Window& list, std::int32_t row, const ListItem& record) {
+bool SetStateOfRow(Window& list, std::int32_t row, const LVITEM& record) {
   if (!HasRow(list, row)) return false;
   const std::uint32_t set = record.state & record.stateMask;
   const bool single = (list.style & LVS_SINGLESEL) != 0;
@@ -89,7 +78,7 @@ bool SetStateOfRow(Window& list, std::int32_t row, const ListItem& record) {
   return true;
 }
 
-bool SetItemState(Window& list, std::int32_t row, const ListItem& record) {
+bool SetItemState(Window& list, std::int32_t row, const LVITEM& record) {
   return row == -1 ? SetStateOfAll(list, record) : SetStateOfRow(list, row, record);
 }
 

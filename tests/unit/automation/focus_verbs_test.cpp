@@ -26,7 +26,7 @@ class SelectAllTest : public ControlTest {
     At(list).rows.resize(rows);
     When(list, platform::WM_CHAR, [list](const Message& message) {
       if (message.wParam == 1)
-        for (ListRow& row : At(list).rows) row.state |= LVIS_SELECTED;
+        for (ListRow& row : At(list).rows) row.state |= platform::LVIS_SELECTED;
       return std::nullopt;
     });
     return list;

@@ -124,10 +124,10 @@ TEST_F(SelectListTest, EachCallSelectsAndFocusesTheNextRow) {
 }
 
 TEST_F(SelectListTest, SelectionOfOtherRowsStays) {
-  At(list_).rows[2].state = LVIS_SELECTED;
+  At(list_).rows[2].state = platform::LVIS_SELECTED;
   Select();
   Select();
-  EXPECT_EQ(States(), (std::vector<std::uint32_t>{LVIS_SELECTED, 3, LVIS_SELECTED}));
+  EXPECT_EQ(States(), (std::vector<std::uint32_t>{platform::LVIS_SELECTED, 3, platform::LVIS_SELECTED}));
 }
 
 TEST_F(SelectListTest, RecordHoldsRowAndStateAlone) {
@@ -185,7 +185,7 @@ TEST_F(SelectListTest, FamilyIsAskedEachTime) {
   EXPECT_TRUE(Select());
   SetVersion(platform::VER_PLATFORM_WIN32_NT, 5, 1);
   EXPECT_TRUE(Select());
-  EXPECT_EQ(States(), (std::vector<std::uint32_t>{LVIS_SELECTED, LVIS_SELECTED, 3}));
+  EXPECT_EQ(States(), (std::vector<std::uint32_t>{platform::LVIS_SELECTED, platform::LVIS_SELECTED, 3}));
 }
 
 TEST_F(SelectListTest, EmptyListFailsWithoutAText) {
@@ -326,7 +326,7 @@ TEST_F(SelectListTest, MacroWalksTheWholeList) {
   EXPECT_TRUE(RunLines({"NEXT VJ", "DO", "SELECTLIST=5071,Mandant öffnen,1", "LOOP UNTIL COUNT", "MSG=fertig"}));
   EXPECT_EQ(Parameters(platform::LVM_SETITEMSTATE), (std::vector<std::int32_t>{0, 1, 2}));
   EXPECT_EQ(automation.ListIndex, 3);
-  EXPECT_EQ(States(), (std::vector<std::uint32_t>{LVIS_SELECTED, LVIS_SELECTED, 3}));
+  EXPECT_EQ(States(), (std::vector<std::uint32_t>{platform::LVIS_SELECTED, platform::LVIS_SELECTED, 3}));
 }
 
 TEST_F(SelectListTest, FailureEndsTheRun) {
@@ -424,6 +424,26 @@ TEST_F(ReadListItemTest, TextBufferIsClearedForEachRow) {
   });
   Read("nie");
   EXPECT_EQ(buffers, std::vector<std::string>(3, std::string(160, '\0')));
+}
+
+TEST_F(ReadListItemTest, NothingIsWrittenBehindRecordAndText) {
+  Rows({{std::string(200, 'x')}, {std::string(200, 'y')}});
+  const std::string guard = "GUARD";
+  std::vector<std::string> behind;
+  When(platform::LVM_GETITEMTEXTW, [&](const Message& message) {
+    const std::uint32_t process = At(list_).process;
+    Record record;
+    ReadMemory(process, message.lParam, &record, sizeof record);
+    for (const std::int32_t end : {message.lParam + 40, record.pszText + 160}) {
+      std::string bytes(guard.size(), '.');
+      ReadMemory(process, end, bytes.data(), bytes.size());
+      behind.push_back(bytes);
+      WriteMemory(process, end, guard.data(), guard.size());
+    }
+  });
+  Read("nie");
+  const std::string cleared(guard.size(), '\0');
+  EXPECT_EQ(behind, (std::vector<std::string>{cleared, cleared, guard, guard}));
 }
 
 TEST_F(ReadListItemTest, ListThatGoesByTheParameterAnswersWithTheSameRow) {

@@ -8,6 +8,7 @@
 #include "clients/state.h"
 #include "engine/run_loop.h"
 #include "engine/state.h"
+#include "platform/messages.h"
 #include "platform/simulated/desktop.h"
 #include "support/press.h"
 
@@ -46,7 +47,7 @@ class ClientListTest : public SystemTest {
     return VertifyMandantNr();
   }
 
-  bool Selected(std::size_t row) const { return (At(list_).rows[row].state & LVIS_SELECTED) != 0; }
+  bool Selected(std::size_t row) const { return (At(list_).rows[row].state & platform::LVIS_SELECTED) != 0; }
 
   std::int32_t form_ = 0;
   std::int32_t list_ = 0;

@@ -33,7 +33,7 @@ class VerbArgumentsTest : public ControlTest {
     list_ = Child("SysListView32", "Liste", 5071);
     At(list_).rows = {{{"Meier"}}};
     When(list_, platform::WM_CHAR, [this](const Message&) {  // Ctrl+A
-      At(list_).rows[0].state = LVIS_SELECTED;
+      At(list_).rows[0].state = platform::LVIS_SELECTED;
       return std::nullopt;
     });
     const std::int32_t frame = Child("ThunderRT6Frame", "", 3);

@@ -99,7 +99,8 @@ TEST_F(SimulatedControls, ApplicationMayAnswerInPlaceOfTheControl) {
 }
 
 TEST_F(SimulatedControls, ListByAnotherNameIsOneThatHasRows) {
-  const auto list = Add({.className = "ListView", .rows = {{{"4711"}}, {{"4712"}, LVIS_SELECTED}}, .selectionMark = 1});
+  const auto list =
+      Add({.className = "ListView", .rows = {{{"4711"}}, {{"4712"}, platform::LVIS_SELECTED}}, .selectionMark = 1});
   EXPECT_EQ(Ask(list, platform::LVM_GETITEMCOUNT), 2);
   EXPECT_EQ(Ask(list, platform::LVM_GETSELECTEDCOUNT), 1);
   EXPECT_EQ(Ask(list, platform::LVM_GETSELECTIONMARK), 1);
