@@ -168,6 +168,8 @@ TEST_F(ControlMessages, EntryThatGrowsBehindItsLengthFillsTheBufferAndNoMore) {
 
 // What comes of it is open, but nothing beside the buffer is written.
 TEST_F(ControlMessages, EntryThatGrowsBeyondAnyListDoesNoHarm) {
+  if (contract::EndsTargetsThatOutgrowTheirLength())
+    GTEST_SKIP() << "Such a target overruns the room that this version of Wine gives it, and never answers.";
   const auto growing = contract::AddForeignWindow({contract::kGrowingClass, "3000000"});
   EXPECT_EQ(SendMessageA(growing, platform::CB_GETLBTEXTLEN, 0, 0), 5);
   TextBuffer buffer(5);

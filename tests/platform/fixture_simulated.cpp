@@ -32,6 +32,8 @@ void Test::SetUp() {
 
 void Test::TearDown() {}
 
+bool EndsTargetsThatOutgrowTheirLength() { return false; }
+
 std::int32_t AddForeignWindow(const WindowPlan& plan) {
   const auto right = plan.left + plan.width;
   const auto bottom = plan.top + plan.height;

@@ -1,6 +1,7 @@
 #ifdef _WIN32
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -264,6 +265,13 @@ void Test::TearDown() {
   foreignWindows.clear();
   ownWindows.clear();
   RemoveFolder(scratchFolder);
+}
+
+bool EndsTargetsThatOutgrowTheirLength() {
+  const HMODULE library = ::GetModuleHandleA("ntdll.dll");
+  const auto version = reinterpret_cast<const char* (*)()>(
+      reinterpret_cast<void*>(::GetProcAddress(library, "wine_get_version")));
+  return version != nullptr && std::atoi(version()) >= 9;
 }
 
 std::int32_t AddForeignWindow(const WindowPlan& plan) {
