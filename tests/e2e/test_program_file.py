@@ -31,24 +31,25 @@ IMPORTS = {
         ("95", "3.1"): """
             CloseHandle CopyFileA CopyFileW CreateDirectoryA CreateDirectoryW CreateFileA CreateFileMappingA
             CreateProcessA DeleteCriticalSection DeleteFileA DeleteFileW EnterCriticalSection ExitProcess FindClose
-            FindFirstFileA FindFirstFileW FindNextFileA FindNextFileW FindResourceA FreeLibrary GetCurrentDirectoryA
-            GetCurrentProcessId GetCurrentThreadId GetEnvironmentVariableA GetFileAttributesA GetFileAttributesW
-            GetLastError GetLocalTime GetModuleFileNameA GetModuleHandleA GetModuleHandleW GetPrivateProfileStringA
-            GetProcAddress GetStartupInfoA GetSystemDirectoryA GetTickCount GetVersion GlobalLock GlobalSize
-            GlobalUnlock InitializeCriticalSection IsDBCSLeadByteEx LeaveCriticalSection LoadLibraryA LoadLibraryW
-            LoadResource LockResource MapViewOfFile MoveFileA MoveFileW MultiByteToWideChar OpenProcess
-            QueryPerformanceCounter ReadFile ReadProcessMemory RemoveDirectoryA RemoveDirectoryW SearchPathA
-            SetErrorMode SetFileAttributesA SetFileAttributesW SetFilePointer SetUnhandledExceptionFilter SizeofResource
-            Sleep TlsGetValue UnmapViewOfFile VirtualAlloc VirtualFree VirtualProtect VirtualQuery WideCharToMultiByte
-            WriteFile WritePrivateProfileStringA WriteProcessMemory lstrcpynA""",
+            FindFirstFileA FindFirstFileW FindNextFileA FindNextFileW FindResourceA FormatMessageA FreeLibrary
+            GetCurrentDirectoryA GetCurrentProcessId GetCurrentThreadId GetEnvironmentVariableA GetFileAttributesA
+            GetFileAttributesW GetLastError GetLocalTime GetModuleFileNameA GetModuleHandleA GetModuleHandleW
+            GetPrivateProfileStringA GetProcAddress GetStartupInfoA GetSystemDirectoryA GetTickCount GetVersion
+            GlobalLock GlobalSize GlobalUnlock InitializeCriticalSection IsDBCSLeadByteEx LeaveCriticalSection
+            LoadLibraryA LoadLibraryW LoadResource LocalFree LockResource MapViewOfFile MoveFileA MoveFileW
+            MultiByteToWideChar OpenProcess QueryPerformanceCounter ReadFile ReadProcessMemory RemoveDirectoryA
+            RemoveDirectoryW SearchPathA SetErrorMode SetFileAttributesA SetFileAttributesW SetFilePointer
+            SetUnhandledExceptionFilter SizeofResource Sleep TlsGetValue UnmapViewOfFile VirtualAlloc VirtualFree
+            VirtualProtect VirtualQuery WideCharToMultiByte WriteFile WritePrivateProfileStringA WriteProcessMemory
+            lstrcpynA""",
         ("95", "3.5"): "GetVersionExA",
     },
     "msvcrt.dll": {
         ("95 OSR 2", "4"): """
             __getmainargs __initenv __mb_cur_max __p__acmdln __p__commode __p__fmode __set_app_type __setusermatherr
-            _amsg_exit _cexit _close _errno _initterm _iob _onexit _read abort atoi calloc exit fprintf fputc fputs free
-            fwrite localeconv malloc memchr memcmp memcpy memmove memset realloc setlocale signal strchr strcmp strerror
-            strlen strncmp vfprintf wcslen"""
+            _amsg_exit _cexit _close _errno _initterm _iob _ismbblead _onexit _read abort atoi calloc exit fprintf fputc
+            fputs free fwrite getenv localeconv malloc memchr memcmp memcpy memmove memset realloc setlocale signal
+            strchr strcmp strerror strlen strncmp strtoul vfprintf wcslen"""
     },
     "shell32.dll": {("95", "4"): "Shell_NotifyIconA"},
     "user32.dll": {
