@@ -77,11 +77,13 @@ bool WriteToConsole(std::FILE*, const std::string&) { return false; }
 
 }  // namespace
 
-#ifdef _WIN32
-std::string HostName(const std::string& path) { return runtime::FromUtf8(path); }
-#else
-std::string HostName(const std::string& path) { return path; }
-#endif
+// By way of char8_t: what plain characters mean to the library depends on its version.
+std::filesystem::path PathOf(const std::string& name) { return std::u8string(name.begin(), name.end()); }
+
+std::string NameOf(const std::filesystem::path& path) {
+  const std::u8string name = path.u8string();
+  return {name.begin(), name.end()};
+}
 
 void CommandLine::Flag(const std::string& name, bool& on) { flags_[name] = &on; }
 
@@ -147,7 +149,7 @@ bool Write(std::FILE* stream, const std::string& text) {
 void Complain(const std::string& tool, const std::string& text) { Write(stderr, tool + ": " + text + "\n"); }
 
 std::string ReadFile(const std::string& path) {
-  const std::string name = HostName(path);
+  const std::filesystem::path name = PathOf(path);
   std::error_code error;
   if (std::filesystem::is_directory(name, error)) throw FileError{Say(kNotReadable, {path, Say(kIsFolder)})};
   std::ifstream file(name, std::ios::binary);

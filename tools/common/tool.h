@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <string>
@@ -58,8 +59,9 @@ bool Write(std::FILE* stream, const std::string& text);
 // One line on standard error behind the tool's name.
 void Complain(const std::string& tool, const std::string& text);
 
-// A path of the command line in the characters that the host's library takes: UTF-8, but for Windows the code page.
-std::string HostName(const std::string& path);
+// A path in UTF-8 as the host's library takes it, and back.
+std::filesystem::path PathOf(const std::string& name);
+std::string NameOf(const std::filesystem::path& path);
 
 // The bytes of a file, by its path in UTF-8. Faults: FileError.
 std::string ReadFile(const std::string& path);

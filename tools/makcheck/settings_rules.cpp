@@ -82,8 +82,8 @@ std::vector<IniLine> LinesOf(const std::string& bytes) {
 // A file of a folder by its name without case, as the program's system finds it; empty when there is none.
 std::string FileIn(const std::string& folder, const std::string& name) {
   std::error_code error;
-  for (const auto& entry : fs::directory_iterator(folder.empty() ? "." : folder, error))
-    if (EqualIgnoringCase(tools::ProgramText(entry.path().filename().string()), name)) return entry.path().string();
+  for (const auto& entry : fs::directory_iterator(tools::PathOf(folder.empty() ? "." : folder), error))
+    if (EqualIgnoringCase(tools::ProgramText(tools::NameOf(entry.path().filename())), name)) return tools::NameOf(entry.path());
   return "";
 }
 
@@ -96,7 +96,7 @@ void AddReadKeys(const Macro& macro, std::set<std::string>& keys) {
 }  // namespace
 
 Settings::Settings(const std::string& path)
-    : folder_(fs::path(path).parent_path().string()), lines_(LinesOf(tools::ReadFile(path))) {}
+    : folder_(tools::NameOf(tools::PathOf(path).parent_path())), lines_(LinesOf(tools::ReadFile(path))) {}
 
 std::string Settings::Value(const std::string& section, const std::string& key, const std::string& otherwise) const {
   for (const IniLine& line : lines_)
@@ -135,7 +135,7 @@ std::vector<Finding> Settings::Check(const std::vector<const Macro*>& macros) co
 }
 
 bool Settings::StartsWithoutClient(const std::string& macroPath) const {
-  const std::string name = tools::ProgramText(fs::path(macroPath).filename().string());
+  const std::string name = tools::ProgramText(tools::NameOf(tools::PathOf(macroPath).filename()));
   std::vector<std::string> listed = runtime::Split(Value("Makro-Fibu", "Files", ""), ',');
   bool inTable = false;
   bool asks = std::find(std::begin(kAlwaysAsk), std::end(kAlwaysAsk), name) != std::end(kAlwaysAsk);

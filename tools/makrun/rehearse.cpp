@@ -34,7 +34,6 @@ namespace simulated = platform::simulated;
 using basMain::run;
 using rehearsal::kProgram;
 using tools::FileError;
-using tools::HostName;
 using tools::ProgramText;
 using tools::ReadFile;
 using tools::Say;
@@ -45,14 +44,14 @@ constexpr std::int32_t kGrace = 60;
 const std::string kSettings = kProgram + "\\QUMAEXP.INI";
 
 std::string MacroName(const Options& options) {
-  return ProgramText(fs::path(HostName(options.macro)).filename().string());
+  return ProgramText(tools::NameOf(tools::PathOf(options.macro).filename()));
 }
 
 void PrepareSystem(const Options& options) {
   if (!options.drive.empty()) {
     std::error_code error;
-    if (!fs::is_directory(HostName(options.drive), error)) throw FileError{Say(say::kNoFolder, {options.drive})};
-    simulated::SetDrive('C', HostName(options.drive));
+    if (!fs::is_directory(tools::PathOf(options.drive), error)) throw FileError{Say(say::kNoFolder, {options.drive})};
+    simulated::SetDrive('C', options.drive);
     simulated::SetApplicationPath(kProgram);
   }
   simulated::SetNow(options.now);
@@ -80,19 +79,19 @@ std::string EncodingWarning(const std::string& path, const std::string& bytes) {
 
 // The files beside the macro stand in the program's folder, as copies: a rehearsal leaves the macro's folder as it is.
 void FillProgramFolder(const Options& options) {
-  const fs::path macro(HostName(options.macro));
+  const fs::path macro = tools::PathOf(options.macro);
   const fs::path beside = macro.has_parent_path() ? macro.parent_path() : fs::path(".");
-  const fs::path program(simulated::HostPath(kProgram));
+  const fs::path program = tools::PathOf(simulated::HostPath(kProgram));
   const std::string text = ReadFile(options.macro);
   if (const std::string warning = EncodingWarning(options.macro, text); !warning.empty())
     tools::Write(stderr, warning + "\n");
   std::error_code error;
   if (!fs::equivalent(beside, program, error)) {
-    fs::remove(simulated::HostPath(kSettings), error);  // those of an earlier rehearsal on a kept drive
+    fs::remove(tools::PathOf(simulated::HostPath(kSettings)), error);  // those of an earlier rehearsal on a kept drive
     for (const auto& entry : fs::directory_iterator(beside, error)) {
       if (!entry.is_regular_file() || entry.path().filename() == "QUMAEXP.LOG") continue;
       fs::copy_file(entry.path(), program / entry.path().filename(), fs::copy_options::overwrite_existing, error);
-      if (error) throw FileError{Say(say::kNotCopied, {entry.path().string(), error.message()})};
+      if (error) throw FileError{Say(say::kNotCopied, {tools::NameOf(entry.path()), error.message()})};
     }
     // Also one that the folder does not list as a file. A name that the program cannot open is told here.
     PutSimulatedFile(kProgram + "\\" + MacroName(options), text);

@@ -205,7 +205,7 @@ struct RegistryValue {
 std::map<std::string, std::map<std::string, RegistryValue>>& Registry();
 
 // Files: the host folder behind a drive letter, whole files as bytes. Letters of names are compared without case.
-void SetDrive(char letter, const std::string& hostFolder);
+void SetDrive(char letter, const std::string& hostFolder);  // in UTF-8
 std::string HostPath(const std::string& path);                    // of an existing or new file; UTF-8
 void PutFile(const std::string& path, const std::string& bytes);  // makes missing folders
 std::string GetFile(const std::string& path);                     // empty when missing

@@ -147,12 +147,11 @@ std::filesystem::path PathOnHost(const FilePath& path) {
   return host;
 }
 
-#ifdef _WIN32
-// The host's library gives a path in UTF-8 and takes it in the code page.
-std::string HostPath(const std::string& path) { return runtime::FromUtf8(PathOnHost(path).string()); }
-#else
-std::string HostPath(const std::string& path) { return PathOnHost(path).native(); }
-#endif
+// By way of char8_t: what plain characters mean to the host's library depends on its version.
+std::string HostPath(const std::string& path) {
+  const std::u8string host = PathOnHost(path).u8string();
+  return {host.begin(), host.end()};
+}
 
 std::u16string LongPath(const FilePath& path) {
   const std::u16string drive = FullPath(path).substr(0, 3);
@@ -176,7 +175,7 @@ std::string ShortPath(const std::string& path) {
 }
 
 void SetDrive(char letter, const std::string& hostFolder) {
-  TheDesktop().drives[runtime::ToUpper(std::string(1, letter))[0]] = hostFolder;
+  TheDesktop().drives[runtime::ToUpper(std::string(1, letter))[0]] = std::u8string(hostFolder.begin(), hostFolder.end());
 }
 
 void SetApplicationPath(const std::string& path) {

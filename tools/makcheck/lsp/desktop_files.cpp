@@ -15,8 +15,6 @@ int DigitOf(char c) {
   return at == std::string_view::npos ? -1 : static_cast<int>(at);
 }
 
-fs::path FromUtf8(const std::string& text) { return std::u8string(text.begin(), text.end()); }
-
 fs::path FileBeside(const fs::path& macro) {
   const fs::path name = fs::path(macro.filename()).replace_extension(".desktop");
   std::error_code error;
@@ -47,11 +45,12 @@ std::string PathOf(const std::string& uri) {
 }
 
 const Desktop* DesktopFiles::For(const std::string& uri) {
-  const fs::path file = FileBeside(FromUtf8(PathOf(uri)));
+  const fs::path file = FileBeside(tools::PathOf(PathOf(uri)));
   std::error_code error;
   const auto written = file.empty() ? fs::file_time_type() : fs::last_write_time(file, error);
-  if (file.string() == path_ && written == written_) return desktop_ ? &*desktop_ : nullptr;
-  path_ = file.string();
+  const std::string path = tools::NameOf(file);
+  if (path == path_ && written == written_) return desktop_ ? &*desktop_ : nullptr;
+  path_ = path;
   written_ = written;
   desktop_.reset();
   if (path_.empty()) return nullptr;
