@@ -9,6 +9,7 @@
 #include "automation/control_address.h"
 #include "automation/foreign_block.h"
 #include "automation/state.h"
+#include "automation/windows_version.h"
 #include "clients/state.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"

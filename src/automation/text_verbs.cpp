@@ -84,4 +84,6 @@ bool GetPathFromCtl(const std::string& id, const std::string& window, const std:
   });
 }
 
+std::string GetCtlPath() { return automation.CtlPath; }
+
 }  // namespace basMain

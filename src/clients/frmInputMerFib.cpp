@@ -5,6 +5,7 @@
 #include "environment/export_paths.h"
 #include "environment/file_system.h"
 #include "environment/settings.h"
+#include "environment/temp_path.h"
 #include "frame/log.h"
 #include "platform/dialogs.h"
 #include "platform/system.h"

@@ -12,11 +12,9 @@
 #include "engine/verbs.h"
 #include "frame/frmMain.h"
 #include "frame/frmStatus.h"
-#include "frame/log.h"
 #include "resources/texts.h"
 #include "runtime/fault.h"
 #include "runtime/memory_reserve.h"
-#include "runtime/text.h"
 
 namespace basMain {
 namespace {
@@ -127,22 +125,6 @@ void MakroAction(std::string line) {
   const std::string result = MakroExecute(AssignedCommand(line));
   // A nested run may have replaced the variables meanwhile.
   FailOnFault([&] { run.UserVariables.SetValue(*variable, result); });
-}
-
-bool GoToLine(const std::string& name) {
-  return Standard("GoToLine", [&] {
-    const std::string key = runtime::ToUpper("MARK=" + name);
-    const auto mark = run.Marks.find(MarkKey(key));
-    if (mark == run.Marks.end()) {
-      run.LastError = "Sprungmarke (" + name + ") konnte nicht gefunden werden.";
-      return false;
-    }
-    // A mark on the first line is found, but index 0 means that no jump is pending, so the run goes on behind the
-    // "GOTO".
-    run.GotoLine = mark->second;
-    LogWrite("Sprungmarke (" + key + ") gefunden: " + std::to_string(mark->second));
-    return true;
-  });
 }
 
 }  // namespace basMain

@@ -11,6 +11,7 @@
 #include "frame/frmMain.h"
 #include "frame/log.h"
 #include "frame/protocol.h"
+#include "frame/start_up.h"
 #include "frame/state.h"
 #include "input/state.h"
 #include "platform/registry.h"
@@ -36,6 +37,7 @@ void ResetSystem() {
   modRegistry::state = {};
   forms::simulated::Reset();
   simulated::Reset();
+  basMain::ConnectForms();
 }
 
 }  // namespace
