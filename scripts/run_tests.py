@@ -136,7 +136,6 @@ def main():
     start = time.monotonic()
     RESULTS.mkdir(parents=True, exist_ok=True)
     totals = Totals()
-    run_suite(totals, *python_suite("layering", ROOT / "tests" / "layering", 60))
     build("windows", totals)
     contract_tests = WINDOWS_BUILD / "platform_contract_tests.exe"
     # Windows are drawn larger only on a screen of high resolution.
@@ -150,6 +149,8 @@ def main():
     other_prefix = {**os.environ, "E2E_PREFIX": "prefix-2"}
     with Suite(*first) as first_half, Suite(*second, env=other_prefix) as second_half:
         build("native", totals)
+        # It reads the symbols of what has just been built.
+        run_suite(totals, *python_suite("layering", ROOT / "tests" / "layering", 60))
         google_suite(BUILD / "native" / "qumaexp_tests", totals)
         google_suite(BUILD / "native" / "platform_contract_tests", totals)
         run_suite(totals, *python_suite("makrun", ROOT / "tests" / "makrun", 600))

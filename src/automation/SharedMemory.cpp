@@ -1,7 +1,6 @@
 #include "automation/SharedMemory.h"
 
 #include "platform/process_memory.h"
-#include "platform/system.h"
 
 namespace SharedMemory {
 
@@ -30,17 +29,6 @@ void FreeForeign(std::int32_t hProcess, std::int32_t address, std::int32_t size)
   if (!platform::VirtualFreeEx(hProcess, address, static_cast<std::uint32_t>(size), platform::MEM_RELEASE))
     platform::VirtualFreeEx(hProcess, address, 0, platform::MEM_RELEASE);
   platform::CloseHandle(hProcess);
-}
-
-bool IsWindowsNT() {
-  platform::OSVERSIONINFO version;
-  return platform::GetVersionExA(version) && version.dwPlatformId == platform::VER_PLATFORM_WIN32_NT;
-}
-
-std::string GetWindowsVersion() {
-  platform::OSVERSIONINFO version;
-  if (!platform::GetVersionExA(version)) return "";
-  return std::to_string(version.dwMajorVersion) + "." + std::to_string(version.dwMinorVersion);
 }
 
 }  // namespace SharedMemory

@@ -1,9 +1,8 @@
-// Memory that another process can reach, in the two ways of the two Windows families, and what they differ in. No
+// Memory that another process can reach, in the two ways of the two Windows families. No
 // operation handles anything: a failed allocation gives address 0, and the callers go on with it.
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 namespace SharedMemory {
 
@@ -14,11 +13,5 @@ void FreeShared(std::int32_t hMapping, std::int32_t address);
 // NT family: a cleared block inside the process. Size in bytes. Faults: FunctionMissing on the 9x family.
 std::int32_t AllocateForeign(std::uint32_t processId, std::int32_t size, std::int32_t& hProcess);
 void FreeForeign(std::int32_t hProcess, std::int32_t address, std::int32_t size);
-
-// "IF ISOSNT": asked anew each time.
-bool IsWindowsNT();
-
-// "WINVERSION": major and minor version joined by a point; empty when the system does not tell.
-std::string GetWindowsVersion();
 
 }  // namespace SharedMemory

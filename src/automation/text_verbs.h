@@ -29,4 +29,7 @@ bool ReadText(const std::string& id, const std::string& window, const std::strin
 // the text; without a control LastError says so.
 bool GetPathFromCtl(const std::string& id, const std::string& window, const std::string& exact, const std::string& cls);
 
+// The text that "GETPATHFROMCTL" has read last.
+std::string GetCtlPath();
+
 }  // namespace basMain

@@ -4,12 +4,9 @@
 #include "engine/standard_handler.h"
 #include "engine/state.h"
 #include "forms/form.h"
-#include "frame/log.h"
 #include "frame/state.h"
 #include "platform/system.h"
 #include "platform/window_lookup.h"
-#include "platform/window_state.h"
-#include "resources/texts.h"
 #include "runtime/conversions.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
@@ -100,6 +97,11 @@ std::string GetWindowClass(std::int32_t hWnd) {
   return name;
 }
 
+std::uint32_t ThreadOf(std::int32_t hWnd) {
+  std::uint32_t process = 0;
+  return platform::GetWindowThreadProcessId(hWnd, process);
+}
+
 void EmptyChildWindowList() { automation.ChildWindowList.assign(1, 0); }
 
 void CollectChildWindows(std::int32_t hParent) {
@@ -118,29 +120,5 @@ std::int32_t PLATFORM_CALLBACK CollectChildProc(std::int32_t hWnd, std::int32_t 
 }
 
 std::int32_t MakeLong(std::int16_t low, std::int16_t high) { return high * 65536 + low; }
-
-bool WaitForWindow(const std::string& window, const std::string& exact, const std::string& text, const std::string& cls,
-                   const std::string& id) {
-  return Standard("WaitForWindow", [&] {
-    bool found = false;
-    do {
-      std::int32_t hWindow = 0;
-      std::int32_t hControl = 0;
-      found = SearchWindow(window, hWindow, exact == "1", text, cls, id, "", hControl);
-      platform::Sleep(500);
-    } while (!found && !run.StopRun);
-    LogWrite(resources::Text(resources::TextId::WindowFound));
-    return true;
-  });
-}
-
-bool MaximizeWindow() {
-  platform::WINDOWPLACEMENT placement;
-  Skip([&] { platform::GetWindowPlacement(frame.MainWindow, placement); });
-  placement.showCmd = platform::SW_SHOWMAXIMIZED;
-  Skip([&] { platform::SetWindowPlacement(frame.MainWindow, placement); });
-  LogWrite(resources::Text(resources::TextId::WindowMaximized));
-  return true;
-}
 
 }  // namespace basMain

@@ -35,6 +35,9 @@ std::string GetWindowTitle(std::int32_t hWnd);
 // Class name, cut to 127 bytes, as the lookups see it.
 std::string GetWindowClass(std::int32_t hWnd);
 
+// The thread that owns a window; 0 for no window.
+std::uint32_t ThreadOf(std::int32_t hWnd);
+
 // Empties ChildWindowList to its one spare slot.
 void EmptyChildWindowList();
 
@@ -46,13 +49,5 @@ std::int32_t PLATFORM_CALLBACK CollectChildProc(std::int32_t hWnd, std::int32_t 
 
 // High times 65536 plus low: the first parameter of a WM_COMMAND notification.
 std::int32_t MakeLong(std::int16_t low, std::int16_t high);
-
-// "WAITFORWINDOW": searches, with a pause of 500 ms after each search, until the window is there or the run is stopped.
-// Logs text 1038 in either case. Always true, but for a fault.
-bool WaitForWindow(const std::string& window, const std::string& exact, const std::string& text, const std::string& cls,
-                   const std::string& id);
-
-// "MAXWINDOW": maximizes MainWindow and logs text 1044. Always true.
-bool MaximizeWindow();
 
 }  // namespace basMain

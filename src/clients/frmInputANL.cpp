@@ -3,6 +3,7 @@
 #include "automation/window_search.h"
 #include "clients/state.h"
 #include "engine/standard_handler.h"
+#include "environment/create_path.h"
 #include "environment/discovery.h"
 #include "environment/result_parsing.h"
 #include "environment/settings.h"

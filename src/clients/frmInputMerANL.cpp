@@ -4,6 +4,7 @@
 
 #include "clients/state.h"
 #include "engine/standard_handler.h"
+#include "environment/create_path.h"
 #include "environment/discovery.h"
 #include "environment/settings.h"
 #include "frame/log.h"

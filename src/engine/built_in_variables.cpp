@@ -1,5 +1,6 @@
 #include "engine/built_in_variables.h"
 
+#include "automation/text_verbs.h"
 #include "clients/asset_matrix.h"
 #include "clients/client_list.h"
 #include "clients/merla_matrix.h"
@@ -8,6 +9,7 @@
 #include "environment/discovery.h"
 #include "environment/export_paths.h"
 #include "environment/settings.h"
+#include "environment/temp_path.h"
 #include "platform/system.h"
 #include "runtime/conversions.h"
 #include "runtime/dates.h"

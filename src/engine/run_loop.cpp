@@ -3,20 +3,17 @@
 #include <string_view>
 #include <utility>
 
-#include "automation/state.h"
-#include "clients/state.h"
 #include "engine/line_form.h"
 #include "engine/line_watch.h"
+#include "engine/reset.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"
 #include "engine/verbs.h"
 #include "frame/frmMain.h"
 #include "frame/frmStatus.h"
-#include "frame/log.h"
 #include "resources/texts.h"
 #include "runtime/fault.h"
 #include "runtime/memory_reserve.h"
-#include "runtime/text.h"
 
 namespace basMain {
 namespace {
@@ -32,21 +29,7 @@ const std::string& Line(std::int32_t index) {
 }
 
 void StartRun(std::int32_t startLine) {
-  run.StopRun = false;
-  run.RunFailed = false;
-  run.ExecEnabled = true;
-  run.CurrentLine = startLine;
-  run.LastError.clear();
-  clients.InputState = 0;
-  automation.DialogTitle.clear();
-  automation.DialogText.clear();
-  if (startLine == 0) {
-    run.LoopBack = false;
-    run.LoopStart = 0;
-    automation.ListIndex = 0;
-    automation.ListCount = 0;
-    clients.MatrixPos = 0;
-  }
+  BeginRun(startLine);
   frmMain.SwitchTray(1);
   frmStatus.ProgressBar.SetMaximum(run.LineCount + 1);
   frmStatus.Info(Text(TextId::RunInProgress));
@@ -127,22 +110,6 @@ void MakroAction(std::string line) {
   const std::string result = MakroExecute(AssignedCommand(line));
   // A nested run may have replaced the variables meanwhile.
   FailOnFault([&] { run.UserVariables.SetValue(*variable, result); });
-}
-
-bool GoToLine(const std::string& name) {
-  return Standard("GoToLine", [&] {
-    const std::string key = runtime::ToUpper("MARK=" + name);
-    const auto mark = run.Marks.find(MarkKey(key));
-    if (mark == run.Marks.end()) {
-      run.LastError = "Sprungmarke (" + name + ") konnte nicht gefunden werden.";
-      return false;
-    }
-    // A mark on the first line is found, but index 0 means that no jump is pending, so the run goes on behind the
-    // "GOTO".
-    run.GotoLine = mark->second;
-    LogWrite("Sprungmarke (" + key + ") gefunden: " + std::to_string(mark->second));
-    return true;
-  });
 }
 
 }  // namespace basMain

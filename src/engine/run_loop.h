@@ -14,8 +14,4 @@ bool ProcessMakro(std::int32_t startLine);
 // Handles one line: comment, declaration, assignment or command.
 void MakroAction(std::string line);
 
-// The verb "GOTO": jumps to the first line "MARK=name", whatever its case. Logs the mark and its line index. Fails for
-// an unknown mark.
-bool GoToLine(const std::string& name);
-
 }  // namespace basMain

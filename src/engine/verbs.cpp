@@ -10,14 +10,15 @@
 #include "automation/check_verbs.h"
 #include "automation/clipboard_verbs.h"
 #include "automation/combo_boxes.h"
-#include "automation/dialog_verbs.h"
 #include "automation/focus_verbs.h"
 #include "automation/list_views.h"
 #include "automation/message_boxes.h"
 #include "automation/program_start.h"
 #include "automation/state.h"
+#include "automation/status_dialog_verbs.h"
 #include "automation/text_verbs.h"
-#include "automation/window_search.h"
+#include "automation/window_verbs.h"
+#include "automation/windows_version.h"
 #include "clients/asset_matrix.h"
 #include "clients/client_list.h"
 #include "clients/frmInputANL.h"
@@ -25,9 +26,9 @@
 #include "clients/frmInputMerANL.h"
 #include "clients/frmInputMerFib.h"
 #include "clients/merla_matrix.h"
+#include "engine/jumps.h"
 #include "engine/line_watch.h"
 #include "engine/loops.h"
-#include "engine/run_loop.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"
 #include "environment/csv_reader.h"
@@ -111,10 +112,7 @@ bool Stop(const Arguments&, std::string&) {
   return true;
 }
 
-bool RaiseError(const Arguments& a, std::string&) {
-  run.LastError = a[1];
-  return false;
-}
+bool RaiseError(const Arguments& a, std::string&) { return Fail(a[1]); }
 
 bool StoreValue(const Arguments& a, std::string& value) {
   LogWrite("Variable wurde befüllt: " + a[1]);

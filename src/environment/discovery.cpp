@@ -5,6 +5,7 @@
 
 #include "automation/window_search.h"
 #include "engine/standard_handler.h"
+#include "environment/create_path.h"
 #include "environment/file_dialog.h"
 #include "environment/modRegistry.h"
 #include "environment/paths.h"

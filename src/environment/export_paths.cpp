@@ -3,13 +3,11 @@
 #include <cstdint>
 #include <string_view>
 
-#include "automation/state.h"
 #include "clients/state.h"
+#include "environment/create_path.h"
 #include "environment/discovery.h"
 #include "environment/paths.h"
-#include "frame/log.h"
 #include "platform/files.h"
-#include "platform/system.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
 
@@ -86,23 +84,5 @@ std::string GetMandantPath(const std::string& module) {
     return "";
   }
 }
-
-std::string GetTemp() {
-  std::string path;
-  try {
-    path = platform::GetEnvironmentVariableA("temp");
-    if (path.empty()) path = platform::GetEnvironmentVariableA("tmp");
-    if (!runtime::Contains(path, "~")) return path;
-    std::string longPath;
-    const std::uint32_t length = platform::GetLongPathNameA(path, longPath, 256);
-    // A path that the buffer did not hold is used with its short names.
-    if (length > 0 && !longPath.empty()) path = longPath.substr(0, length);
-  } catch (...) {
-    LogWrite("GetTemp: " + runtime::CaughtFault().description);
-  }
-  return path;
-}
-
-std::string GetCtlPath() { return automation.CtlPath; }
 
 }  // namespace basMain

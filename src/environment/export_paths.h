@@ -19,11 +19,4 @@ std::string GetAnlTempName();
 // Empty after any fault, such as a missing file or fewer fields; nothing is logged or stored.
 std::string GetMandantPath(const std::string& module);
 
-// The directory for temporary files by the environment variable "temp", else "tmp", with its short names made long
-// where that is possible. Not made and not tested. A fault is logged.
-std::string GetTemp();
-
-// The text that "GETPATHFROMCTL" has read last.
-std::string GetCtlPath();
-
 }  // namespace basMain

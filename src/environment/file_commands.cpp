@@ -3,16 +3,14 @@
 #include <cstdint>
 #include <vector>
 
-#include "automation/control_address.h"
+#include "automation/status_dialog_verbs.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"
+#include "environment/create_path.h"
 #include "environment/file_system.h"
 #include "environment/paths.h"
-#include "environment/settings.h"
 #include "forms/form.h"
-#include "frame/frmStatus.h"
 #include "frame/log.h"
-#include "platform/messages.h"
 #include "platform/system.h"
 #include "resources/texts.h"
 #include "runtime/fault.h"
@@ -104,8 +102,7 @@ bool CopyFile(const std::string& source, const std::string& destination) {
     return true;
   } catch (...) {
     const runtime::Fault fault = runtime::CaughtFault();
-    run.LastError = "Fehler " + std::to_string(static_cast<int>(fault.number)) + " beim Kopieren: " + fault.description;
-    return false;
+    return Fail("Fehler " + std::to_string(static_cast<int>(fault.number)) + " beim Kopieren: " + fault.description);
   }
 }
 
@@ -162,27 +159,6 @@ bool WaitForFile(const std::string& file) {
     for (const platform::FilePath& path : list.paths) WaitUntilFinished(path);
     return true;
   });
-}
-
-bool DisplayStatus(const std::string& text, const std::string& value) {
-  const std::string shown = value.empty() ? text : runtime::Replace(text, "%1", value);
-  forms::Pump();
-  frmStatus.Status(shown);
-  LogWrite(shown);
-  return true;
-}
-
-bool CloseWindow(const std::string& window, const std::string& exact) {
-  if (platform::SendMessageA(FindAddressedWindow({window, exact}), platform::WM_CLOSE, 0, 0) != 0) {
-    run.LastError = Text(TextId::WindowNotClosed);
-    return false;
-  }
-  LogWrite(Text(TextId::WindowClosed));
-  return true;
-}
-
-bool IsGdpduMode(const std::string& value) {
-  return basAPI::ReadIniString(basAPI::SettingsFile(), "Allgemein", "GDPDU", "0") == value;
 }
 
 }  // namespace basMain

@@ -1,5 +1,5 @@
-// The verbs for files and folders, the status verb that they use, and the two small verbs beside them. What is not
-// there is mostly no failure; what the system refuses goes to LastError and yields false.
+// The verbs for files and folders. What is not there is mostly no failure; what the system refuses goes to LastError
+// and yields false.
 #pragma once
 
 #include <string>
@@ -37,16 +37,5 @@ std::string CreateDir(const std::string& piece1, const std::string& piece2, cons
 // argument, for all files of its folder that have its extension, 100 at most. Shows each size as status text 1055; a
 // file that is gone again is logged with text 1056. A stop ends the wait, and the result is true as well.
 bool WaitForFile(const std::string& file);
-
-// "DISPLAYSTATUS": shows the text, with every "%1" replaced by the value unless that is empty, in the status dialog.
-// Logs it. Always true.
-bool DisplayStatus(const std::string& text, const std::string& value);
-
-// "CLOSEWINDOW": sends the window, wanted by its whole title where exact is "1", the message to close, to window 0 too
-// when there is none. Logs text 1047 when the answer is 0; any other answer is a failure with text 1048.
-bool CloseWindow(const std::string& window, const std::string& exact);
-
-// "IF GDPDU": the setting GDPDU, "0" by default, equals the value.
-bool IsGdpduMode(const std::string& value);
 
 }  // namespace basMain

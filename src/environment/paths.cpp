@@ -1,11 +1,7 @@
 #include "environment/paths.h"
 
-#include "engine/standard_handler.h"
 #include "environment/file_system.h"
-#include "frame/log.h"
-#include "platform/files.h"
 #include "platform/system.h"
-#include "resources/texts.h"
 #include "runtime/fault.h"
 
 namespace basAPI {
@@ -21,15 +17,6 @@ std::string JoinPieces(std::initializer_list<std::string_view> pieces) {
     first = false;
   }
   return path;
-}
-
-bool CreatePath(const std::string& path) {
-  return basMain::Standard("CreatePath", [&] {
-    const std::string directory = path.ends_with('\\') ? path : path + "\\";
-    if (!platform::MakeSureDirectoryPathExists(directory)) return false;
-    basMain::LogWrite(resources::Text(resources::TextId::PathCreated) + directory);
-    return true;
-  });
 }
 
 bool CheckFileExists(const std::string& path) {

@@ -18,10 +18,6 @@ std::string JoinPath(const Piece&... pieces) {
   return JoinPieces({std::string_view(pieces)...});
 }
 
-// Makes all missing directories of the path. True when they are there; each success logs text 1012 and the path with a
-// trailing backslash, also when nothing had to be made. A refusal is not reported; a fault goes to LastError.
-bool CreatePath(const std::string& path);
-
 // By a file-system object of its own; a fault counts as false.
 bool CheckFileExists(const std::string& path);
 

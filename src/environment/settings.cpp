@@ -31,3 +31,11 @@ std::string ReadINI(const std::string& section, const std::string& key) {
 }
 
 }  // namespace basAPI
+
+namespace basMain {
+
+bool IsGdpduMode(const std::string& value) {
+  return basAPI::ReadIniString(basAPI::SettingsFile(), "Allgemein", "GDPDU", "0") == value;
+}
+
+}  // namespace basMain

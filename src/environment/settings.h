@@ -20,3 +20,10 @@ std::int32_t WriteIniString(const std::string& file, const std::string& section,
 std::string ReadINI(const std::string& section, const std::string& key);
 
 }  // namespace basAPI
+
+namespace basMain {
+
+// "IF GDPDU": the setting GDPDU, "0" by default, equals the value.
+bool IsGdpduMode(const std::string& value);
+
+}  // namespace basMain

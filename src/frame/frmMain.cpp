@@ -3,11 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "environment/discovery.h"
 #include "environment/file_system.h"
-#include "frame/frmAbout.h"
-#include "frame/frmLog.h"
-#include "frame/frmStatus.h"
 #include "frame/log.h"
 #include "frame/state.h"
 #include "platform/clipboard.h"
@@ -49,7 +45,7 @@ void MainForm::Form_Load() {
   Skip([] { runtime::HoldMemoryReserve(); });
   FileSystemState.emplace();
   Skip([] { OpenLog(); });
-  Skip([] { GetTeRuDestination(); });  // asks its questions before the program can be triggered
+  Skip([&] { Events.Start(); });  // asks its questions before the program can be triggered
   Skip([&] { icon_ = platform::LoadIconA("ICOQUM"); });
   Skip([&] { iconMissing_ = !platform::Shell_NotifyIconA(platform::NIM_ADD, TrayRecord()); });
   bool registered = false;
@@ -116,17 +112,18 @@ void MainForm::Form_QueryUnload() {
   FileSystemState.reset();
 }
 
+void MainForm::Hotkey() { Events.Press(); }
+
 void MainForm::mnuProto_Click() {
-  Skip([] { frmLog.ShowModal(); });
+  Skip([&] { Events.ShowLog(); });
 }
 
 void MainForm::mnuInfo_Click() {
-  Skip([] { frmAbout.ShowModal(); });
+  Skip([&] { Events.ShowInfo(); });
 }
 
 void MainForm::mnuExit_Click() {
-  frmLog.Unload();
-  frmStatus.Unload();
+  Events.Exit();
   Unload();
   platform::EndProgram();
 }

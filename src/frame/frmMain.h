@@ -1,5 +1,6 @@
 // The main form: never seen, it owns a window for the message queue, the notification icon with its menu, the hot key
-// and the clipboard timer.
+// and the clipboard timer. What a press or a choice in the menu sets going is no business of the form: it raises an
+// event, and start_up.h puts in what follows.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +10,19 @@
 
 namespace basMain {
 
+// What the form only tells of; each does nothing until it is put in, before the form is loaded.
+struct MainFormEvents {
+  void (*Start)() = [] {};     // while the form loads: file system and log are there, icon and hot key not yet
+  void (*Press)() = [] {};     // the hot key
+  void (*ShowLog)() = [] {};   // chosen in the menu
+  void (*ShowInfo)() = [] {};  // the same
+  void (*Exit)() = [] {};      // the same, before the form unloads itself and ends the program
+};
+
 struct MainForm : forms::Form {
   MainForm();
+
+  MainFormEvents Events;
 
   // Shows the state of the program in the notification area: 0 idle, 1 running, 2 failed. Another value keeps the icon.
   void SwitchTray(std::int16_t state);
@@ -19,9 +31,7 @@ struct MainForm : forms::Form {
   // while the notification area has not taken it, as before the shell is up.
   void KeepIcon(std::uint32_t message);
 
-  // One press of the hot key: chooses the macro by the foreground window's caption, confirms client and year where the
-  // settings want it, and runs the macro. Returns when the run has ended or has failed. No fault stops it: each faulty
-  // statement is skipped.
+  // One press of the hot key, see press.h. Returns when the run has ended or has failed.
   void Hotkey();
 
   void mnuProto_Click();

@@ -1,6 +1,5 @@
 #include "frame/frmStatus.h"
 
-#include "engine/run_loop.h"
 #include "engine/state.h"
 #include "frame/frmMain.h"
 #include "frame/log.h"
@@ -86,7 +85,7 @@ void StatusForm::cmdResume_Click() {
   Skip([&] { cmdResume.SetEnabled(false); });
   run.RunFailed = false;
   if (run.DialogHidden) Hide();
-  ProcessMakro(run.CurrentLine);
+  Resume();
 }
 
 }  // namespace basMain

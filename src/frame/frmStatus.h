@@ -12,6 +12,9 @@ namespace basMain {
 struct StatusForm : forms::Form {
   StatusForm();
 
+  // Raised by cmdResume, which only tells that the run is to go on; does nothing until start_up.h puts in what follows.
+  void (*Resume)() = [] {};
+
   // Pumps once, then shows the phase of the run.
   void Info(const std::string& strInfo);
   // Pumps once, then shows the current step.

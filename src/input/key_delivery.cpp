@@ -1,10 +1,10 @@
 #include "input/key_delivery.h"
 
+#include "automation/window_search.h"
 #include "environment/window_order.h"
 #include "frame/frmStatus.h"
 #include "input/send_keys.h"
 #include "platform/input.h"
-#include "platform/window_lookup.h"
 #include "platform/window_state.h"
 #include "runtime/fault.h"
 #include "runtime/text.h"
@@ -12,11 +12,6 @@
 namespace basMain {
 
 using runtime::Skip;
-
-std::uint32_t ThreadOf(std::int32_t hWnd) {
-  std::uint32_t process = 0;
-  return platform::GetWindowThreadProcessId(hWnd, process);
-}
 
 void PressKeys(const std::string& keys) {
   Skip([&] { basAPI::SendKeys(runtime::EqualIgnoringCase(keys, "{SPACE}") ? " " : keys); });

@@ -7,9 +7,6 @@
 
 namespace basMain {
 
-// The thread that owns a window; 0 for no window.
-std::uint32_t ThreadOf(std::int32_t hWnd);
-
 // Sends keys to whatever has the input focus, and waits for them (send_keys.h). "{SPACE}" as the whole string, in any
 // letters, is one blank; the notation has no such name. A bad string sends nothing.
 void PressKeys(const std::string& keys);

@@ -18,4 +18,11 @@ bool SendKeyToControl(const std::string& keys, const std::string& id, const std:
 // also without the window.
 bool SendKeyToWindow(const std::string& keys, const std::string& window);
 
+// "SELECTALL": selects every row of a list, a direct child of the window or of the child `parentId` (the window's first
+// child stands in for one that is missing), by the focus and the keys Ctrl+A. True when as many rows are selected as
+// there are, and there are some. Logs text 1018 with their number, also for an empty list, whose LastError is then text
+// 1020; without a list, or with rows left out, LastError is text 1019.
+bool SelectAll(const std::string& listId, const std::string& window, const std::string& exact,
+               const std::string& parentId);
+
 }  // namespace basMain

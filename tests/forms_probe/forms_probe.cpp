@@ -27,6 +27,7 @@
 #include "environment/export_paths.h"
 #include "environment/file_system.h"
 #include "environment/paths.h"
+#include "environment/temp_path.h"
 #include "forms/form.h"
 #include "forms/win32/control_windows.h"
 #include "frame/frmAbout.h"

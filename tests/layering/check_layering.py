@@ -1,131 +1,114 @@
-"""Who may include whom.
+"""Who may include and call whom.
 
-Each room of src/ may include the rooms listed for it, the system's headers have their own places, and no include runs
-in a circle. Run by itself it prints what breaks these rules.
+The floor plan, floors.txt, says which file stands on which floor. A file includes its own floor and lower ones, calls
+its own floor and lower ones, and no sources call each other in a circle, but for those that the plan agrees on. What is
+called is read from the object files of the native build. Run by itself it prints what breaks these rules, and the
+largest set of sources that call each other; an argument names the folder of another native build.
 """
 
 import pathlib
 import re
+import subprocess
 import sys
 
-GROUND = {"runtime", "platform", "forms", "resources"}
-HANDLERS = {"automation", "clients", "environment", "input"}
-CORE = {"engine", "frame"}
+import floor_plan
 
-MAY_INCLUDE = {
-    "runtime": set(),
-    "resources": {"runtime"},
-    "platform": {"runtime"},
-    "platform/win32": {"runtime", "platform"},
-    "platform/simulated": {"runtime", "platform"},
-    "forms": {"runtime", "platform"},
-    "forms/win32": {"runtime", "platform", "forms", "platform/win32"},
-    "forms/simulated": {"runtime", "platform", "forms", "platform/simulated"},
-    # Of engine and frame the handlers see the leaves only; see leaf_problems.
-    **{room: GROUND | HANDLERS | CORE for room in HANDLERS},
-    **{room: GROUND | HANDLERS | CORE for room in CORE},
-}
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BUILD = ROOT / "build" / "native"
 
-# A room may always include itself. The program's start, and what takes the place of a library in it, stand in none.
+# The implementations of the platform and of the forms: what is common knows neither.
+REALIZATIONS = {"win32", "simulated"}
+# The floors with an implementation behind them, whose sources are one machine. Above them no circle may be larger.
+GROUND = {"runtime", "resources", "platform", "forms"}
+LARGEST_CIRCLE = 4
+
+# The program's start, and what takes the place of a library in it, begin with no header and are built for Windows only.
 START = {"main.cpp", "one_thread.cpp"}
+
+# Where the state of the program is reset.
+RESET = "engine/reset.cpp"
 
 # System headers that only some places may use.
 WINDOWS_HEADERS = {"windows.h", "commctrl.h", "shellapi.h", "commdlg.h", "richedit.h", "winuser.h", "winreg.h"}
-WINDOWS_ROOMS = {"platform/win32", "forms/win32"}
 # They make the Windows program far larger than it may be.
 HEAVY_HEADERS = {"iostream", "fstream", "sstream", "format", "regex", "locale", "filesystem"}
-HEAVY_ROOMS = {"platform/simulated", "forms/simulated"}
 
-INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 
 class Tree:
-    def __init__(self, source):
+    """The sources of a folder, what they include and where they stand."""
+
+    def __init__(self, source, plan):
         self.source = pathlib.Path(source)
-        self.files = {}
+        self.plan = plan
+        self.files = {}  # for each its includes: line, mark and name
         for path in sorted(self.source.rglob("*")):
             if path.suffix in (".h", ".cpp"):
+                lines = path.read_text(encoding="utf-8").splitlines()
+                found = [(number, INCLUDE.match(line)) for number, line in enumerate(lines, 1)]
                 name = path.relative_to(self.source).as_posix()
-                self.files[name] = INCLUDE.findall(path.read_text(encoding="utf-8"))
+                self.files[name] = [(number, *match.groups()) for number, match in found if match]
 
     def own_includes(self, name):
-        """The files of the tree that a file includes, found from src/ or from the file's own folder."""
-        for mark, included in self.files[name]:
+        """Line and file for what is included of the tree, found from src/ or from the file's own folder."""
+        for number, mark, included in self.files[name]:
             if mark == '"':
                 beside = (pathlib.PurePosixPath(name).parent / included).as_posix()
-                yield included if included in self.files or beside not in self.files else beside
+                yield number, included if included in self.files or beside not in self.files else beside
+
+    def stands_higher(self, name, other):
+        """True when a file stands on a higher floor than another one; false when one of them is not in the plan."""
+        floor, of_other = self.plan.floor_of(name), self.plan.floor_of(other)
+        return floor is not None and of_other is not None and floor > of_other
+
+    def label(self, name):
+        return self.plan.label(self.plan.floor_of(name))
 
 
 def room_of(name):
-    parts = name.split("/")
-    if len(parts) > 2 and "/".join(parts[:2]) in MAY_INCLUDE:
-        return "/".join(parts[:2])
-    return parts[0] if len(parts) > 1 else ""
+    return pathlib.PurePosixPath(name).parent.as_posix()
 
 
-def room_problems(tree):
+def realization_of(name):
+    return next((part for part in name.split("/")[:-1] if part in REALIZATIONS), None)
+
+
+def plan_problems(tree):
+    """The plan and the tree speak of the same files."""
+    yield from tree.plan.mistakes
+    used = {tree.plan.entry_of(name) for name in tree.files}
+    for entry in tree.plan.entries():
+        if entry not in used:
+            yield f"floors.txt: {entry} is not there"
     for name in tree.files:
-        room = room_of(name)
-        if name in START:
-            continue
-        if room not in MAY_INCLUDE:
-            yield f"{name} stands in no known room"
-            continue
-        for included in tree.own_includes(name):
+        if tree.plan.floor_of(name) is None:
+            yield f"{name} stands on no floor"
+
+
+def include_problems(tree):
+    for name in tree.files:
+        for line, included in tree.own_includes(name):
+            where = f"{name}:{line} includes {included}"
             if included not in tree.files:
-                yield f"{name} includes {included}, which is not there"
-            elif room_of(included) != room and room_of(included) not in MAY_INCLUDE[room]:
-                yield f"{name} includes {included}: {room} may not include {room_of(included)}"
+                yield f"{where}, which is not there"
+            elif tree.stands_higher(included, name):
+                yield f"{where}: upwards from {tree.label(name)} to {tree.label(included)}"
+            elif realization_of(included) not in (None, realization_of(name)):
+                yield f"{where}, which belongs to one realization only"
 
 
-def reached(tree, name, seen=None):
-    seen = set() if seen is None else seen
-    for included in tree.own_includes(name):
-        if included in tree.files and included not in seen:
-            seen.add(included)
-            reached(tree, included, seen)
-    return seen
-
-
-def stands_on_ground(tree, name):
-    """True for a header from which no engine, frame or handler is reached."""
-    return all(room_of(further) in GROUND for further in reached(tree, name))
-
-
-def leaf_problems(tree):
-    """What handlers include of engine and frame must not lead back to the handlers, but for their plain tools."""
-    for name in tree.files:
-        if room_of(name) not in HANDLERS:
-            continue
-        for included in tree.own_includes(name):
-            if room_of(included) not in CORE or included not in tree.files:
-                continue
-            for further in sorted(reached(tree, included)):
-                if room_of(further) in HANDLERS and not stands_on_ground(tree, further):
-                    yield f"{name} includes {included}, which is no leaf: it leads to {further}"
-
-
-def core_header_problems(tree):
-    """Sources of engine and frame meet the handlers; their headers must not, but for the handlers' plain tools."""
-    for name in tree.files:
-        if room_of(name) not in CORE or not name.endswith(".h"):
-            continue
-        for included in tree.own_includes(name):
-            if room_of(included) in HANDLERS and included in tree.files and not stands_on_ground(tree, included):
-                yield f"{name} includes {included}: a header of {room_of(name)} may not include a handler"
-
-
-def circle_problems(tree):
+def include_circle_problems(tree):
     done, path = set(), []
 
     def walk(name):
         if name in path:
-            yield "circle: " + " -> ".join(path[path.index(name) :] + [name])
+            yield "circle of includes: " + " -> ".join(path[path.index(name) :] + [name])
             return
         if name in done or name not in tree.files:
             return
         path.append(name)
-        for included in tree.own_includes(name):
+        for _, included in tree.own_includes(name):
             yield from walk(included)
         path.pop()
         done.add(name)
@@ -136,39 +119,173 @@ def circle_problems(tree):
 
 def system_header_problems(tree):
     for name, includes in tree.files.items():
-        room = room_of(name)
-        for mark, included in includes:
+        for line, mark, included in includes:
             if mark != "<":
                 continue
-            if included.lower() in WINDOWS_HEADERS and room not in WINDOWS_ROOMS:
-                yield f"{name} includes <{included}> outside the Windows rooms"
-            if included in HEAVY_HEADERS and room not in HEAVY_ROOMS:
-                yield f"{name} includes <{included}>, which the Windows program cannot afford"
+            if included.lower() in WINDOWS_HEADERS and realization_of(name) != "win32":
+                yield f"{name}:{line} includes <{included}> outside the Windows rooms"
+            if included in HEAVY_HEADERS and realization_of(name) != "simulated":
+                yield f"{name}:{line} includes <{included}>, which the Windows program cannot afford"
 
 
 def header_problems(tree):
     """A source begins with the header that it implements: its own, or one of its room; a platform's may be above."""
     for name in tree.files:
-        room = room_of(name)
         if not name.endswith(".cpp") or name in START:
             continue
-        first = next(tree.own_includes(name), "nothing")
+        _, first = next(tree.own_includes(name), (0, "nothing"))
         own = name[:-4] + ".h"
         if own in tree.files and first != own:
             yield f"{name} begins with {first}, not with its header"
-        elif room_of(first) != room and room not in WINDOWS_ROOMS | HEAVY_ROOMS:
+        elif room_of(first) != room_of(name) and realization_of(name) is None:
             yield f"{name} begins with {first}, which is no header of its room"
 
 
-RULES = [room_problems, leaf_problems, core_header_problems, circle_problems, system_header_problems, header_problems]
+RULES = [plan_problems, include_problems, include_circle_problems, system_header_problems, header_problems]
 
 
-def problems(source):
-    tree = Tree(source)
-    return [problem for rule in RULES for problem in rule(tree)]
+class Symbols:
+    """Which source calls which, by the object files of a build."""
+
+    def __init__(self, tree, build):
+        self.tree = tree
+        self.build = pathlib.Path(build)
+        objects = {}
+        for path in sorted(self.build.glob("**/*.dir/src/**/*.o")):
+            name = path.as_posix().split(".dir/src/")[1].removesuffix(".o")
+            if name in tree.files:
+                objects[path.as_posix()] = name
+        self.missing = [
+            name
+            for name in tree.files
+            if name.endswith(".cpp")
+            and name not in START
+            and realization_of(name) != "win32"
+            and name not in objects.values()
+        ]
+        defined, wanted = {}, []
+        self.variables = {}  # those that can be written to, by the source that holds them
+        for line in self._names(objects):
+            path, rest = line.split(": ", 1)
+            symbol, kind = rest.split()[:2]
+            # What several objects may hold, such as a template's instance, belongs to none of them.
+            if kind in "TDBRSGC":
+                defined.setdefault(symbol, objects[path])
+                if kind in "DBSGC":
+                    self.variables[symbol] = objects[path]
+            elif kind == "U":
+                wanted.append((objects[path], symbol))
+        self.wanted = set(wanted)
+        self.calls = {}  # caller to called to one of the symbols
+        for name, symbol in wanted:
+            if defined.get(symbol, name) != name:
+                self.calls.setdefault(name, {}).setdefault(defined[symbol], symbol)
+
+    @staticmethod
+    def _names(objects):
+        if not objects:
+            return []
+        command = ["nm", "-A", "-P", *objects]
+        return subprocess.run(command, check=True, capture_output=True, text=True).stdout.splitlines()
+
+    def circles(self):
+        """The sets of sources, without their endings, that call each other in circles: Tarjan's algorithm."""
+        number, low, stack, found = {}, {}, [], []
+
+        def visit(name):
+            number[name] = low[name] = len(number)
+            stack.append(name)
+            for called in self.calls.get(name, ()):
+                if called not in number:
+                    visit(called)
+                    low[name] = min(low[name], low[called])
+                elif called in stack:
+                    low[name] = min(low[name], number[called])
+            if low[name] == number[name]:
+                at = stack.index(name)
+                if len(stack) - at > 1:
+                    found.append(frozenset(file.removesuffix(".cpp") for file in stack[at:]))
+                del stack[at:]
+
+        for name in sorted(self.calls):
+            if name not in number:
+                visit(name)
+        return found
+
+    def largest_circle(self):
+        """Number of sources in the largest set above the ground; 1 when none call each other."""
+        return max((len(circle) for circle in self.circles() if not _on_ground(circle)), default=1)
+
+
+def _on_ground(circle):
+    return all(name.split("/")[0] in GROUND for name in circle)
+
+
+def _covers(agreed, circle):
+    return all(any(name == entry or entry.endswith("/") and name.startswith(entry) for entry in agreed) for name in circle)
+
+
+def _readable(symbol):
+    return subprocess.run(["c++filt", symbol], check=True, capture_output=True, text=True).stdout.strip()
+
+
+def object_problems(symbols):
+    for name in symbols.missing:
+        yield f"{name} has no object file in {symbols.build}: build the preset native first"
+
+
+def symbol_problems(symbols):
+    tree = symbols.tree
+    for name, called in sorted(symbols.calls.items()):
+        for other, symbol in sorted(called.items()):
+            if tree.stands_higher(other, name):
+                yield (
+                    f"{name} calls {_readable(symbol)} of {other}: "
+                    f"upwards from {tree.label(name)} to {tree.label(other)}"
+                )
+
+
+def symbol_circle_problems(symbols):
+    circles = symbols.circles()
+    agreed = symbols.tree.plan.circles
+    for circle in circles:
+        told = " ".join(sorted(circle))
+        if not any(_covers(entry, circle) for entry in agreed):
+            yield f"sources that call each other: {told}"
+        elif not _on_ground(circle) and len(circle) > LARGEST_CIRCLE:
+            yield f"more than {LARGEST_CIRCLE} sources that call each other: {told}"
+    for entry in agreed:
+        if not any(_covers(entry, circle) for circle in circles):
+            yield f"floors.txt: no circle among {' '.join(sorted(entry))}"
+
+
+def state_problems(symbols):
+    """What rooms above the ground keep, but for forms and constants, is reset by the one place for it."""
+    for symbol, name in sorted(symbols.variables.items()):
+        variable = _readable(symbol).split("[")[0].split("::")[-1]
+        if name.split("/")[0] in GROUND or re.match(r"frm|k[A-Z]|__", variable):
+            continue
+        if name != RESET and (RESET, symbol) not in symbols.wanted:
+            yield f"{name} keeps {variable}, which {RESET} does not reset"
+
+
+SYMBOL_RULES = [object_problems, symbol_problems, symbol_circle_problems, state_problems]
+
+
+def problems(source, plan, build):
+    tree = Tree(source, plan)
+    symbols = Symbols(tree, build)
+    found = [problem for rule in RULES for problem in rule(tree)]
+    return found + [problem for rule in SYMBOL_RULES for problem in rule(symbols)]
+
+
+def main(build=BUILD):
+    plan = floor_plan.read()
+    found = problems(ROOT / "src", plan, build)
+    print("\n".join(found) or "No problem found.")
+    print(f"Largest set of sources that call each other: {Symbols(Tree(ROOT / 'src', plan), build).largest_circle()}")
+    return 1 if found else 0
 
 
 if __name__ == "__main__":
-    found = problems(pathlib.Path(__file__).resolve().parents[2] / "src")
-    print("\n".join(found) or "No problem found.")
-    sys.exit(1 if found else 0)
+    sys.exit(main(*sys.argv[1:2]))

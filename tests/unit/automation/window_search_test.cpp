@@ -2,6 +2,7 @@
 #include "automation/window_search.h"
 
 #include "automation/state.h"
+#include "automation/window_verbs.h"
 #include "engine/state.h"
 #include "frame/state.h"
 #include "platform/messages.h"

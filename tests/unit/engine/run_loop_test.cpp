@@ -3,6 +3,7 @@
 
 #include "automation/state.h"
 #include "clients/state.h"
+#include "engine/jumps.h"
 #include "engine/macro_file.h"
 #include "engine/state.h"
 #include "forms/simulated/user.h"

@@ -5,6 +5,7 @@
 
 #include "clients/state.h"
 #include "engine/state.h"
+#include "environment/temp_path.h"
 #include "platform/files.h"
 #include "platform/registry.h"
 #include "platform/simulated/desktop.h"

@@ -1,4 +1,4 @@
-// Waiting for files, the status verb, and the two small verbs.
+// Waiting for files.
 #include "environment/file_commands.h"
 
 #include <algorithm>
@@ -8,7 +8,6 @@
 #include "engine/state.h"
 #include "environment/file_system.h"
 #include "frame/frmStatus.h"
-#include "platform/messages.h"
 #include "platform/simulated/desktop.h"
 #include "support/press.h"
 
@@ -315,132 +314,5 @@ TEST_F(WaitForFileTest, WithoutAFileSystemItFailsInTheHandler) {
 }
 
 // "DISPLAYSTATUS".
-
-class DisplayStatusTest : public SystemTest {};
-
-TEST_F(DisplayStatusTest, TheTextIsShownAndLogged) {
-  EXPECT_TRUE(DisplayStatus("Schritt", ""));
-  EXPECT_EQ(frmStatus.lblStatus.Caption(), "Schritt");
-  ExpectLog({"Schritt"});
-}
-
-TEST_F(DisplayStatusTest, EveryPercentOneIsReplacedByAValue) {
-  EXPECT_TRUE(DisplayStatus("%1 von %2, %1", "3"));
-  ExpectLog({"3 von %2, 3"});
-}
-
-TEST_F(DisplayStatusTest, WithoutAValueTheTextStandsAsItIs) {
-  EXPECT_TRUE(DisplayStatus("%1 von %2", ""));
-  ExpectLog({"%1 von %2"});
-}
-
-TEST_F(DisplayStatusTest, AValueIsNotSearchedAgain) {
-  EXPECT_TRUE(DisplayStatus("<%1>", "%1%1"));
-  ExpectLog({"<%1%1>"});
-}
-
-TEST_F(DisplayStatusTest, ItLetsEventsRunBeforeTheTextIsShown) {
-  frmStatus.Show();
-  ClickClose(frmStatus);
-  EXPECT_TRUE(DisplayStatus("Schritt", ""));
-  EXPECT_FALSE(frmStatus.Visible());
-  EXPECT_EQ(frmStatus.lblStatus.Caption(), "Schritt");
-}
-
-TEST_F(DisplayStatusTest, BothVerbs) {
-  EXPECT_TRUE(RunLines({"DISPLAYSTATUS='a, %1',b", "DISPLAY=c", "DISPLAY="}));
-  ExpectLog(Completed({"a, b", "c", ""}));
-}
-
-// "CLOSEWINDOW".
-
-class CloseWindowTest : public SystemTest {
- protected:
-  // A window that answers the message to close with this number.
-  static std::int32_t Window(const std::string& title, std::int32_t answer, std::int32_t parent = 0) {
-    return AddWindow({.className = "ThunderRT6FormDC",
-                      .text = title,
-                      .parent = parent,
-                      .procedure = [answer](const Message& message) -> std::optional<std::int32_t> {
-                        if (message.number != platform::WM_CLOSE) return std::nullopt;
-                        return answer;
-                      }});
-  }
-
-  static int TimesClosed(std::int32_t window) {
-    return static_cast<int>(std::ranges::count(At(window).received, platform::WM_CLOSE, &Message::number));
-  }
-};
-
-TEST_F(CloseWindowTest, AWindowIsSentTheMessageByAPartOfItsTitle) {
-  const auto window = Window("Export läuft", 0);
-  EXPECT_TRUE(RunLines({"CLOSEWINDOW=läuft"}));
-  EXPECT_EQ(TimesClosed(window), 1);
-  EXPECT_EQ(At(window).received.back().wParam, 0);
-  EXPECT_EQ(At(window).received.back().lParam, 0);
-  ExpectLog(Completed({"Fenster wurde geschlossen."}));
-}
-
-TEST_F(CloseWindowTest, OnlyA1MeansTheWholeTitle) {
-  const auto other = Window("Export läuft", 0);
-  const auto whole = Window("Export", 0);
-  BringToFront(other);
-  EXPECT_TRUE(CloseWindow("Export", "1"));
-  EXPECT_EQ(TimesClosed(whole), 1);
-  EXPECT_TRUE(CloseWindow("Export", "True"));
-  EXPECT_EQ(TimesClosed(other), 1);
-}
-
-TEST_F(CloseWindowTest, AnAnswerOtherThan0IsAFailure) {
-  Window("Export", 1);
-  EXPECT_FALSE(RunLines({"CLOSEWINDOW=Export,1", "MSG=nie"}));
-  ExpectLog({"Das Fenster kann nicht geschlossen werden."});
-}
-
-TEST_F(CloseWindowTest, WithoutAWindowTheMessageGoesToNoneAndCountsAsClosed) {
-  EXPECT_TRUE(CloseWindow("fehlt", "1"));
-  ExpectLog({"Fenster wurde geschlossen."});
-  EXPECT_EQ(run.LastError, "");
-}
-
-TEST_F(CloseWindowTest, WithoutAWindowAControlOfTheTargetWithThisTextIsSentTheMessage) {
-  const auto target = TargetWindow("TeRu");
-  const auto control = Window("Export", 0, target);
-  EXPECT_TRUE(CloseWindow("export", "1"));
-  EXPECT_EQ(TimesClosed(control), 1);
-  EXPECT_EQ(TimesClosed(target), 0);
-}
-
-// "IF GDPDU".
-
-class GdpduModeTest : public SystemTest {};
-
-TEST_F(GdpduModeTest, WithoutTheKeyItIs0) {
-  EXPECT_FALSE(IsGdpduMode("1"));
-  EXPECT_TRUE(IsGdpduMode("0"));
-  EXPECT_FALSE(IsGdpduMode(""));
-}
-
-TEST_F(GdpduModeTest, TheComparisonIsExact) {
-  Setting("Allgemein", "GDPDU", "1");
-  EXPECT_TRUE(IsGdpduMode("1"));
-  EXPECT_FALSE(IsGdpduMode("0"));
-  EXPECT_FALSE(IsGdpduMode("01"));
-  EXPECT_FALSE(IsGdpduMode("1 "));
-  Setting("Allgemein", "GDPDU", "Ja");
-  EXPECT_TRUE(IsGdpduMode("Ja"));
-  EXPECT_FALSE(IsGdpduMode("JA"));
-}
-
-TEST_F(GdpduModeTest, AnEmptyKeyIsEmpty) {
-  Setting("Allgemein", "GDPDU", "");
-  EXPECT_TRUE(IsGdpduMode(""));
-  EXPECT_FALSE(IsGdpduMode("0"));
-}
-
-TEST_F(GdpduModeTest, ItLogsNothing) {
-  IsGdpduMode("0");
-  EXPECT_TRUE(Log().empty());
-}
 
 }  // namespace

@@ -1,5 +1,6 @@
 // Joining and making paths.
 #include "environment/paths.h"
+#include "environment/create_path.h"
 
 #include "engine/state.h"
 #include "environment/file_system.h"

@@ -142,4 +142,38 @@ TEST_F(SettingsTest, TheProgramNeverWritesItsOwnSettings) {
   EXPECT_FALSE(platform::FileExists(SettingsFile()));
 }
 
+// "IF GDPDU".
+
+using basMain::IsGdpduMode;
+
+class GdpduModeTest : public SystemTest {};
+
+TEST_F(GdpduModeTest, WithoutTheKeyItIs0) {
+  EXPECT_FALSE(IsGdpduMode("1"));
+  EXPECT_TRUE(IsGdpduMode("0"));
+  EXPECT_FALSE(IsGdpduMode(""));
+}
+
+TEST_F(GdpduModeTest, TheComparisonIsExact) {
+  Setting("Allgemein", "GDPDU", "1");
+  EXPECT_TRUE(IsGdpduMode("1"));
+  EXPECT_FALSE(IsGdpduMode("0"));
+  EXPECT_FALSE(IsGdpduMode("01"));
+  EXPECT_FALSE(IsGdpduMode("1 "));
+  Setting("Allgemein", "GDPDU", "Ja");
+  EXPECT_TRUE(IsGdpduMode("Ja"));
+  EXPECT_FALSE(IsGdpduMode("JA"));
+}
+
+TEST_F(GdpduModeTest, AnEmptyKeyIsEmpty) {
+  Setting("Allgemein", "GDPDU", "");
+  EXPECT_TRUE(IsGdpduMode(""));
+  EXPECT_FALSE(IsGdpduMode("0"));
+}
+
+TEST_F(GdpduModeTest, ItLogsNothing) {
+  IsGdpduMode("0");
+  EXPECT_TRUE(Log().empty());
+}
+
 }  // namespace

@@ -1,6 +1,7 @@
 // The delivery of keys into a window of another application.
 #include "input/key_delivery.h"
 
+#include "automation/window_search.h"
 #include "engine/state.h"
 #include "environment/window_order.h"
 #include "frame/frmStatus.h"

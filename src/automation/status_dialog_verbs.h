@@ -5,6 +5,10 @@
 
 namespace basMain {
 
+// "DISPLAYSTATUS": shows the text, with every "%1" replaced by the value unless that is empty, in the status dialog.
+// Logs it. Always true.
+bool DisplayStatus(const std::string& text, const std::string& value);
+
 // "HIDEDIALOG", "SHOWDIALOG": keep DialogHidden, by which the engine shows the dialog again after a failure. Always
 // true.
 bool HideDialog();

@@ -1,8 +1,9 @@
 // The verbs on the status dialog, and looking at the window in front.
-#include "automation/dialog_verbs.h"
+#include "automation/status_dialog_verbs.h"
 
 #include "frame/frmStatus.h"
 #include "frame/state.h"
+#include "support/press.h"
 #include "unit/automation/control_test.h"
 
 namespace {
@@ -111,6 +112,44 @@ TEST_F(ActiveWindowTest, TheVerbDecidesTheBranch) {
   EXPECT_TRUE(RunLines({"IF ACTIVEWINDOW=Export", "MSG=1", "ENDIF", "IF ACTIVEWINDOW=Export,TRUE", "MSG=nie", "ELSE",
                         "MSG=2", "ENDIF"}));
   ExpectLog(Completed({"MSG: 1", "MSG: 2"}));
+}
+
+// "DISPLAYSTATUS".
+
+class DisplayStatusTest : public SystemTest {};
+
+TEST_F(DisplayStatusTest, TheTextIsShownAndLogged) {
+  EXPECT_TRUE(DisplayStatus("Schritt", ""));
+  EXPECT_EQ(frmStatus.lblStatus.Caption(), "Schritt");
+  ExpectLog({"Schritt"});
+}
+
+TEST_F(DisplayStatusTest, EveryPercentOneIsReplacedByAValue) {
+  EXPECT_TRUE(DisplayStatus("%1 von %2, %1", "3"));
+  ExpectLog({"3 von %2, 3"});
+}
+
+TEST_F(DisplayStatusTest, WithoutAValueTheTextStandsAsItIs) {
+  EXPECT_TRUE(DisplayStatus("%1 von %2", ""));
+  ExpectLog({"%1 von %2"});
+}
+
+TEST_F(DisplayStatusTest, AValueIsNotSearchedAgain) {
+  EXPECT_TRUE(DisplayStatus("<%1>", "%1%1"));
+  ExpectLog({"<%1%1>"});
+}
+
+TEST_F(DisplayStatusTest, ItLetsEventsRunBeforeTheTextIsShown) {
+  frmStatus.Show();
+  ClickClose(frmStatus);
+  EXPECT_TRUE(DisplayStatus("Schritt", ""));
+  EXPECT_FALSE(frmStatus.Visible());
+  EXPECT_EQ(frmStatus.lblStatus.Caption(), "Schritt");
+}
+
+TEST_F(DisplayStatusTest, BothVerbs) {
+  EXPECT_TRUE(RunLines({"DISPLAYSTATUS='a, %1',b", "DISPLAY=c", "DISPLAY="}));
+  ExpectLog(Completed({"a, b", "c", ""}));
 }
 
 }  // namespace

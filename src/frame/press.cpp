@@ -1,4 +1,4 @@
-#include "frame/frmMain.h"
+#include "frame/press.h"
 
 #include <array>
 #include <cstdint>
@@ -13,6 +13,7 @@
 #include "environment/settings.h"
 #include "environment/window_order.h"
 #include "forms/form.h"
+#include "frame/frmMain.h"
 #include "frame/frmStatus.h"
 #include "frame/log.h"
 #include "frame/state.h"
@@ -86,7 +87,7 @@ bool ConfirmClient() {
 
 }  // namespace
 
-void MainForm::Hotkey() {
+void Press() {
   Skip([] { frame.MainWindow = platform::GetForegroundWindow(); });
   const std::string ini = basAPI::SettingsFile();
   const std::string caption = GetWindowTitle(frame.MainWindow);

@@ -1,8 +1,10 @@
-#include "automation/dialog_verbs.h"
+#include "automation/status_dialog_verbs.h"
 
 #include "automation/window_search.h"
 #include "engine/state.h"
+#include "forms/form.h"
 #include "frame/frmStatus.h"
+#include "frame/log.h"
 #include "frame/state.h"
 #include "platform/system.h"
 #include "platform/window_lookup.h"
@@ -12,6 +14,14 @@
 namespace basMain {
 
 using runtime::Skip;
+
+bool DisplayStatus(const std::string& text, const std::string& value) {
+  const std::string shown = value.empty() ? text : runtime::Replace(text, "%1", value);
+  forms::Pump();
+  frmStatus.Status(shown);
+  LogWrite(shown);
+  return true;
+}
 
 bool HideDialog() {
   run.DialogHidden = true;
