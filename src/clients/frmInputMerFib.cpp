@@ -111,11 +111,11 @@ bool InputMerFibForm::ShowData() {
   });
 }
 
-void InputMerFibForm::AddClientRow(const std::string& number, const std::string& name, const std::string& begin) {
+void InputMerFibForm::AddClientRow(const std::string& number, const std::string& client, const std::string& begin) {
   Skip([&] {
     const std::size_t item = lstViewMandanten.Add("Item" + number, "");
     lstViewMandanten.SetSubItem(item, kNumber, number);
-    lstViewMandanten.SetSubItem(item, kName, name);
+    lstViewMandanten.SetSubItem(item, kName, client);
     lstViewMandanten.SetSubItem(item, kMonth, begin);
     lstViewMandanten.SetChecked(item, true);
   });

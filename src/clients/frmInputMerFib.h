@@ -47,7 +47,7 @@ class InputMerFibForm : public InputDialog {
 
  private:
   // Adds a checked client. Passes over its faults: of clients with the same number the first one stays.
-  void AddClientRow(const std::string& number, const std::string& name, const std::string& begin);
+  void AddClientRow(const std::string& number, const std::string& client, const std::string& begin);
   void SelectClient(std::size_t item, std::int32_t first, std::int32_t last);
 
   // Writes the work file, which is made anew. False when that fails; message_ tells why.

@@ -80,8 +80,8 @@ class Control {
 
 class Label : public Control {
  public:
-  Label(Form& form, std::string name, std::string caption = "", ControlSize size = {})
-      : Control(form, ControlKind::Label, std::move(name), std::move(caption), size) {}
+  Label(Form& owner, std::string controlName, std::string caption = "", ControlSize room = {})
+      : Control(owner, ControlKind::Label, std::move(controlName), std::move(caption), room) {}
   const std::string& Caption() { return Text(); }
   void SetCaption(const std::string& caption) { SetText(caption); }
 };
@@ -91,8 +91,8 @@ class TextBox : public Control {
   // Asked for each character that the user types, control characters such as backspace included; false swallows it.
   using KeyFilter = std::function<bool(unsigned char)>;
 
-  TextBox(Form& form, std::string name, ControlSize size, KeyFilter keyPress = nullptr)
-      : Control(form, ControlKind::TextBox, std::move(name), "", size), KeyPress(std::move(keyPress)) {}
+  TextBox(Form& owner, std::string controlName, ControlSize room, KeyFilter keyPress = nullptr)
+      : Control(owner, ControlKind::TextBox, std::move(controlName), "", room), KeyPress(std::move(keyPress)) {}
   using Control::SetText;
   using Control::Text;
 
@@ -102,8 +102,8 @@ class TextBox : public Control {
 // A text of any length with its own scroll bars, for reading only.
 class RichTextBox : public Control {
  public:
-  RichTextBox(Form& form, std::string name, ControlSize size)
-      : Control(form, ControlKind::RichTextBox, std::move(name), "", size) {}
+  RichTextBox(Form& owner, std::string controlName, ControlSize room)
+      : Control(owner, ControlKind::RichTextBox, std::move(controlName), "", room) {}
   using Control::SetText;
   using Control::Text;
 };
@@ -113,9 +113,9 @@ enum class ButtonRole { Plain, Default, Cancel };
 
 class Button : public Control {
  public:
-  Button(Form& form, std::string name, std::string caption, ButtonRole buttonRole, std::function<void()> click,
+  Button(Form& owner, std::string controlName, std::string caption, ButtonRole buttonRole, std::function<void()> click,
          bool enabled = true)
-      : Control(form, ControlKind::Button, std::move(name), std::move(caption), {}),
+      : Control(owner, ControlKind::Button, std::move(controlName), std::move(caption), {}),
         role(buttonRole),
         Click(std::move(click)) {
     design.enabled = enabled;
@@ -130,8 +130,8 @@ class Button : public Control {
 // in the layout. At first none is set; the arrow keys move between them, and the focus alone sets none.
 class OptionButton : public Control {
  public:
-  OptionButton(Form& form, std::string name, std::string caption)
-      : Control(form, ControlKind::OptionButton, std::move(name), std::move(caption), {}) {}
+  OptionButton(Form& owner, std::string controlName, std::string caption)
+      : Control(owner, ControlKind::OptionButton, std::move(controlName), std::move(caption), {}) {}
   const std::string& Caption() { return Text(); }
   bool Value() { return Control::Value() != 0; }
   // Setting one clears the others.
@@ -141,8 +141,8 @@ class OptionButton : public Control {
 // A list that drops down and from which one entry is chosen; nothing can be typed into it.
 class ComboBox : public Control {
  public:
-  ComboBox(Form& form, std::string name, ControlSize size)
-      : Control(form, ControlKind::ComboBox, std::move(name), "", size) {
+  ComboBox(Form& owner, std::string controlName, ControlSize room)
+      : Control(owner, ControlKind::ComboBox, std::move(controlName), "", room) {
     design.value = -1;
   }
   void AddItem(const std::string& text);
@@ -177,9 +177,9 @@ struct ListEvents {
 // which they were added. The columns come up as wide as their contents; the widest give way where there is no room.
 class ListView : public Control {
  public:
-  ListView(Form& form, std::string name, std::vector<std::string> columnHeadings, ControlSize size,
+  ListView(Form& owner, std::string controlName, std::vector<std::string> columnHeadings, ControlSize room,
            ListEvents listEvents)
-      : Control(form, ControlKind::ListView, std::move(name), "", size),
+      : Control(owner, ControlKind::ListView, std::move(controlName), "", room),
         columns(std::move(columnHeadings)),
         events(std::move(listEvents)) {}
 
@@ -217,8 +217,8 @@ class ListView : public Control {
 
 class ProgressBar : public Control {
  public:
-  ProgressBar(Form& form, std::string name, ControlSize size)
-      : Control(form, ControlKind::ProgressBar, std::move(name), "", size) {}
+  ProgressBar(Form& owner, std::string controlName, ControlSize room)
+      : Control(owner, ControlKind::ProgressBar, std::move(controlName), "", room) {}
   using Control::Maximum;
   using Control::SetMaximum;
   using Control::SetValue;  // a value beyond the maximum shows as the maximum
@@ -228,7 +228,8 @@ class ProgressBar : public Control {
 // Shows an icon of the program's resources, in the system's icon size (32 by 32 pixels at 96 dpi).
 class Picture : public Control {
  public:
-  Picture(Form& form, std::string name) : Control(form, ControlKind::Picture, std::move(name), "", {}) {}
+  Picture(Form& owner, std::string controlName)
+      : Control(owner, ControlKind::Picture, std::move(controlName), "", {}) {}
   const std::string& Icon() { return Text(); }
   void SetIcon(const std::string& resource) { SetText(resource); }
 };

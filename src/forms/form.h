@@ -27,6 +27,7 @@ class Form {
   Form(std::string name, std::string title, FormStyle style = {});
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
+  virtual ~Form() = default;
 
   const std::string name;
   const std::string title;

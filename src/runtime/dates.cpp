@@ -306,7 +306,7 @@ DateTime AddDays(const DateTime& date, int number) {
 }
 
 double DateNumber(const DateTime& date) {
-  const double day = (DayCount(date) - kDayZero).count();
+  const auto day = static_cast<double>((DayCount(date) - kDayZero).count());
   const double time = SecondOfDay(date) / double(kSecondsOfDay);
   return day < 0 ? day - time : day + time;
 }
