@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "engine/macro_file.h"
+#include "engine/reset.h"
 #include "engine/run_loop.h"
 #include "engine/state.h"
-#include "environment/csv_reader.h"
 #include "environment/file_system.h"
 #include "forms/simulated/user.h"
 #include "frame/log.h"
@@ -36,10 +36,7 @@ struct Macro {
 
 // A fresh system with an open log and the macro beside it.
 void Prepare(const Macro& macro) {
-  basMain::log = {};
-  basMain::FileSystemState.reset();
-  basMain::run = {};
-  basMain::csv = {};
+  basMain::ResetProgram();
   forms::simulated::Reset();
   simulated::Reset();
   basMain::FileSystemState.emplace();

@@ -5,7 +5,6 @@
 #include "automation/control_address.h"
 #include "automation/window_search.h"
 #include "engine/standard_handler.h"
-#include "engine/state.h"
 #include "frame/log.h"
 #include "frame/state.h"
 #include "platform/messages.h"
@@ -34,10 +33,7 @@ bool ButtonClick(const std::string& id, const std::string& window, const std::st
     const ControlAddress address{window, exact, text, cls.empty() ? "Button" : cls, std::to_string(number)};
     const std::int32_t hWindow = FindAddressedWindow(address);
     const std::int32_t control = FindControl(hWindow, number, address);
-    if (control == 0) {
-      run.LastError = Text(TextId::ButtonNotPressed);
-      return false;
-    }
+    if (control == 0) return Fail(Text(TextId::ButtonNotPressed));
     const std::int16_t command = runtime::ToInteger(static_cast<double>(number));
     if (address.cls == "Button") platform::PostMessageA(hWindow, platform::WM_COMMAND, command, 0);
     else platform::PostMessageA(hWindow, platform::WM_COMMAND, MakeLong(command, 0), control);
@@ -53,10 +49,7 @@ bool MenuClick(const std::string& menuId, const std::string& window, const std::
     const ControlAddress address{window, exact, "", cls, std::to_string(NumberOrZero(controlId))};
     const std::int32_t hWindow = MenuWindow(address);
     const std::int32_t receiver = cls.empty() ? hWindow : FindControl(hWindow, menu, address);
-    if (receiver == 0) {
-      run.LastError = Text(TextId::MenuNotFound);
-      return false;
-    }
+    if (receiver == 0) return Fail(Text(TextId::MenuNotFound));
     platform::PostMessageA(receiver, platform::WM_COMMAND, menu, 0);
     LogWrite(Text(TextId::MenuChosen, std::to_string(menu) + " " + std::to_string(hWindow)));
     return true;

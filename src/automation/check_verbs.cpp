@@ -24,10 +24,7 @@ std::int32_t CheckState(std::int32_t control) { return platform::SendMessageA(co
 // Asks the control whether it has come to the wanted state, and tells.
 bool VerifyState(std::int32_t control, std::int32_t wanted) {
   const std::int32_t state = CheckState(control);
-  if (state != wanted) {
-    run.LastError = Text(TextId::OptionNotSet, std::to_string(state));
-    return false;
-  }
+  if (state != wanted) return Fail(Text(TextId::OptionNotSet, std::to_string(state)));
   LogWrite(Text(TextId::OptionSet, std::to_string(state)));
   return true;
 }
@@ -60,10 +57,7 @@ bool SetOption(const std::string& id, const std::string& window, const std::stri
                const std::string& frameId, const std::string& frameClass) {
   return Standard("SetOption", [&] {
     const std::int32_t control = FindControlInFrame(id, window, exact, cls, frameId, frameClass);
-    if (control == 0) {
-      run.LastError = "SetOption konnte das Control nicht finden";
-      return false;
-    }
+    if (control == 0) return Fail("SetOption konnte das Control nicht finden");
     return ClickOn(control);
   });
 }
@@ -89,10 +83,7 @@ bool SetCheck(const std::string& value, const std::string& id, const std::string
   return Standard("SetCheck", [&] {
     const std::int32_t number = NumberOrZero(id);
     const std::int32_t box = FindBox(FindAddressedWindow({window, exact}), frameOrText, number);
-    if (box == 0) {
-      run.LastError = Text(TextId::OptionNotFound);
-      return false;
-    }
+    if (box == 0) return Fail(Text(TextId::OptionNotFound));
     return value == "1" ? ClickOn(box) : Clear(box);
   });
 }

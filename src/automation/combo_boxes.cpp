@@ -6,7 +6,6 @@
 #include "automation/state.h"
 #include "automation/window_search.h"
 #include "engine/standard_handler.h"
-#include "engine/state.h"
 #include "frame/log.h"
 #include "platform/messages.h"
 #include "platform/window_lookup.h"
@@ -66,10 +65,7 @@ bool SelectCombo(bool indexMode, const std::string& value, const std::string& id
     LogWrite("Select Combo-> HWNDCTL: " + std::to_string(combo) +
              "Parent: " + std::to_string(platform::GetParent(combo)));
     const bool selected = combo != 0 && (indexMode ? SelectIndex(combo, index) : SelectPrefix(combo, value));
-    if (!selected) {
-      run.LastError = Text(TextId::ComboNotSelected) + " Sel: " + value;
-      return false;
-    }
+    if (!selected) return Fail(Text(TextId::ComboNotSelected) + " Sel: " + value);
     NotifyParent(combo, number, platform::CBN_SELCHANGE);
     NotifyParent(combo, number, platform::CBN_SELENDOK);
     LogWrite(Text(TextId::ComboSelected) + " Sel: " + value);
@@ -82,10 +78,7 @@ bool ReadCombo(const std::string& id, const std::string& cls, const std::string&
   return Standard("ReadCombo", [&] {
     automation.ComboItems.clear();
     const std::int32_t combo = FindComboBox({window, exact, text, cls, id, frameId});
-    if (combo == 0) {
-      run.LastError = Text(TextId::ComboNotSelected);
-      return false;
-    }
+    if (combo == 0) return Fail(Text(TextId::ComboNotSelected));
     const std::int32_t count = platform::SendMessageA(combo, platform::CB_GETCOUNT, 0, 0);
     if (count > kMostEntries) throw runtime::Fault(runtime::FaultNumber::OutOfMemory);
     for (std::int32_t i = 0; i < count; ++i) automation.ComboItems += EntryText(combo, i) + ";";
@@ -98,10 +91,7 @@ bool ReadComboText(const std::string& id, const std::string& window, const std::
                    const std::string& text) {
   return Standard("ReadComboText", [&] {
     const std::int32_t combo = FindComboBox({window, exact, text, cls, id});
-    if (combo == 0) {
-      run.LastError = Text(TextId::ComboTextNotRead);
-      return false;
-    }
+    if (combo == 0) return Fail(Text(TextId::ComboTextNotRead));
     const std::int32_t index = platform::SendMessageA(combo, platform::CB_GETCURSEL, 0, 0);
     automation.LastReadText = EntryText(combo, index);
     LogWrite(Text(TextId::ComboTextRead) + " " + automation.LastReadText);

@@ -5,7 +5,6 @@
 #include <limits>
 #include <span>
 
-#include "automation/SharedMemory.h"
 #include "automation/control_address.h"
 #include "automation/foreign_block.h"
 #include "automation/state.h"
@@ -163,10 +162,7 @@ bool SelectList(const std::string& id, const std::string& window, const std::str
     const ControlAddress address{window, exact, text, kListClass, id};
     const std::int32_t hWindow = FindAddressedWindow(address);
     const std::int32_t list = FindDescendant(hWindow, address);
-    if (list == 0) {
-      run.LastError = Text(TextId::ListNotSelected) + " " + std::to_string(hWindow);
-      return false;
-    }
+    if (list == 0) return Fail(Text(TextId::ListNotSelected) + " " + std::to_string(hWindow));
     const std::int32_t mark = platform::SendMessageA(list, platform::LVM_GETSELECTIONMARK, 0, 0);
     const std::int32_t count = CountRows(list);
     if (count <= 0) return false;
@@ -189,18 +185,12 @@ bool ReadListItem(const std::string& value, const std::string& id, const std::st
   return Standard("ReadListItem", [&] {
     const ControlAddress address{window, exact, "", kListClass, id};
     const std::int32_t list = FindDescendant(FindAddressedWindow(address), address);
-    if (list == 0) {
-      run.LastError = Text(TextId::ValueNotInList, value);
-      return false;
-    }
+    if (list == 0) return Fail(Text(TextId::ValueNotInList, value));
     // The list sees the question; the answer is not used.
     platform::SendMessageA(list, platform::LVM_GETSELECTEDCOUNT, 0, 0);
     const std::int32_t count = CountRows(list);
     if (count <= 0) return false;
-    if (!FindValue(list, count, value)) {
-      run.LastError = Text(TextId::ValueNotInList, value);
-      return false;
-    }
+    if (!FindValue(list, count, value)) return Fail(Text(TextId::ValueNotInList, value));
     LogWrite(Text(TextId::ValueInList, value));
     return true;
   });

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "engine/state.h"
+#include "engine/standard_handler.h"
 #include "frame/log.h"
 #include "platform/shell.h"
 #include "platform/window_state.h"
@@ -39,10 +39,7 @@ bool ExecuteProgram(const std::string& command) {
   std::uint32_t process = 0;
   runtime::Skip(
       [&] { process = platform::StartProgram(WithProgramInQuotes(runtime::Trim(command)), platform::SW_SHOWNORMAL); });
-  if (process == 0) {
-    run.LastError = Text(TextId::ProgramNotStarted) + command;
-    return false;
-  }
+  if (process == 0) return Fail(Text(TextId::ProgramNotStarted) + command);
   LogWrite(Text(TextId::ProgramStarted) + command);
   return true;
 }

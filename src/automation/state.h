@@ -8,6 +8,9 @@
 namespace basMain {
 
 struct AutomationState {
+  // Where each run begins, see engine/reset.h; a resumed one (not fresh) keeps its place in the list.
+  void BeginRun(bool fresh);
+
   // Filled by CollectChildProc; the last slot is always a spare one.
   std::vector<std::int32_t> ChildWindowList = {0};
   std::string DialogTitle;     // title fragment of the last dialog verb

@@ -5,7 +5,6 @@
 #include "automation/control_address.h"
 #include "automation/state.h"
 #include "engine/standard_handler.h"
-#include "engine/state.h"
 #include "frame/log.h"
 #include "platform/messages.h"
 #include "platform/window_lookup.h"
@@ -30,10 +29,8 @@ bool SetText(const std::string& newText, const std::string& id, const std::strin
 bool FillTextBox(std::int32_t hControl, const std::string& text) {
   std::int32_t answer = 0;
   if (hControl != 0) answer = platform::SendMessageA(hControl, platform::WM_SETTEXT, 0, text);
-  if (answer != 1 && ReadControlText(hControl) != text) {
-    run.LastError = Text(TextId::TextBoxNotFilled, std::to_string(answer));
-    return false;
-  }
+  if (answer != 1 && ReadControlText(hControl) != text)
+    return Fail(Text(TextId::TextBoxNotFilled, std::to_string(answer)));
   LogWrite(Text(TextId::TextBoxFilled, text));
   return true;
 }
@@ -45,10 +42,7 @@ bool GetText(const std::string& expected, const std::string& id, const std::stri
     if (control == 0) return false;
     const std::string shown = ReadControlText(control);
     // The same words, "konnte nicht gelesen werden", are wanted for both outcomes.
-    if (shown != expected) {
-      run.LastError = Text(TextId::TextBoxRead, shown);
-      return false;
-    }
+    if (shown != expected) return Fail(Text(TextId::TextBoxRead, shown));
     LogWrite(Text(TextId::TextBoxRead, expected));
     return true;
   });
@@ -59,10 +53,7 @@ bool ReadText(const std::string& id, const std::string& window, const std::strin
   return Standard("ReadText", [&] {
     automation.LastReadText.clear();
     const std::int32_t control = FindControlInFrame(id, window, exact, cls, frameId, frameClass);
-    if (control == 0) {
-      run.LastError = "ReadText konnte das Control nicht finden";
-      return false;
-    }
+    if (control == 0) return Fail("ReadText konnte das Control nicht finden");
     automation.LastReadText = ReadControlText(control);
     LogWrite("ReadText: " + automation.LastReadText);
     return true;
@@ -74,10 +65,7 @@ bool GetPathFromCtl(const std::string& id, const std::string& window, const std:
   return Standard("GetPathFromCtl", [&] {
     const ControlAddress address{window, exact, "", cls, id};
     const std::int32_t control = FindDescendant(FindAddressedWindow(address), address);
-    if (control == 0) {
-      run.LastError = "Pfad konnte nicht ermittelt werden.";
-      return false;
-    }
+    if (control == 0) return Fail("Pfad konnte nicht ermittelt werden.");
     automation.CtlPath = ReadControlText(control);
     LogWrite("GetPathFromCtl " + automation.CtlPath);
     return true;

@@ -45,10 +45,8 @@ bool MaximizeWindow() {
 }
 
 bool CloseWindow(const std::string& window, const std::string& exact) {
-  if (platform::SendMessageA(FindAddressedWindow({window, exact}), platform::WM_CLOSE, 0, 0) != 0) {
-    run.LastError = Text(TextId::WindowNotClosed);
-    return false;
-  }
+  if (platform::SendMessageA(FindAddressedWindow({window, exact}), platform::WM_CLOSE, 0, 0) != 0)
+    return Fail(Text(TextId::WindowNotClosed));
   LogWrite(Text(TextId::WindowClosed));
   return true;
 }

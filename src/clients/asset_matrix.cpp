@@ -107,10 +107,7 @@ void DeriveEnds() {
 
 bool CreateMatrix(const std::string& years, const std::string& areas, const std::string& window,
                   const std::string& exact, const std::string& text) {
-  if (!ReadCombo(areas, kComboClass, window, exact, text, "")) {
-    run.LastError = "Matrix konnte nicht erstellt werden";
-    return false;
-  }
+  if (!ReadCombo(areas, kComboClass, window, exact, text, "")) return Fail("Matrix konnte nicht erstellt werden");
   CollectYears(Items(), areas, years, {window, exact, text});
   RemoveDoubles();
   Do([] { basQuickSort::SortMatrix(clients.Matrix); });

@@ -98,8 +98,7 @@ bool InputMerFibForm::ShowData() {
   return Standard("ShowData", [&] {
     if (!FileSystem().FileExists(fileName_)) {
       // The text names this file whatever the file is called.
-      run.LastError = "Die Mandantendatei ''MandantenFibu.txt'' existiert nicht!";
-      return false;
+      return Fail("Die Mandantendatei ''MandantenFibu.txt'' existiert nicht!");
     }
     const auto file = FileSystem().OpenTextFile(fileName_, FileMode::Read);
     file->SkipLine();

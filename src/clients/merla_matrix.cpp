@@ -12,7 +12,6 @@
 #include "automation/window_search.h"
 #include "clients/state.h"
 #include "engine/standard_handler.h"
-#include "engine/state.h"
 #include "environment/settings.h"
 #include "frame/log.h"
 #include "input/merla_controls.h"
@@ -141,10 +140,7 @@ std::int32_t FindYearFrame(const std::string& version) {
 bool CreateMerlaMatrix(const std::string& id, const std::string& window, const std::string& exact,
                        const std::string& cls, const std::string& text) {
   const Build build{id, window, exact, cls, Version()};
-  if (!ReadCombo(id, cls, window, exact, text, "")) {
-    run.LastError = "Matrix konnte nicht erstellt werden";
-    return false;
-  }
+  if (!ReadCombo(id, cls, window, exact, text, "")) return Fail("Matrix konnte nicht erstellt werden");
   // Each entry is followed by ";", so the last piece is empty.
   const auto entries = runtime::Split(automation.ComboItems, ';');
   clients.MerMatrix.assign(1, {});

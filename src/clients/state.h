@@ -31,6 +31,9 @@ struct MerMatrixRow {
 };
 
 struct ClientState {
+  // Where each run begins, see engine/reset.h; a resumed one (not fresh) keeps its row.
+  void BeginRun(bool fresh);
+
   std::string ContextPath;      // "\client\year" as confirmed; empty if not confirmed
   std::int32_t InputState = 0;  // how the client range dialog ended
   std::string MandantNrFrom;    // the client range as typed there; kept until the next range

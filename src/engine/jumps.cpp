@@ -12,10 +12,7 @@ bool GoToLine(const std::string& name) {
   return Standard("GoToLine", [&] {
     const std::string key = runtime::ToUpper("MARK=" + name);
     const auto mark = run.Marks.find(MarkKey(key));
-    if (mark == run.Marks.end()) {
-      run.LastError = "Sprungmarke (" + name + ") konnte nicht gefunden werden.";
-      return false;
-    }
+    if (mark == run.Marks.end()) return Fail("Sprungmarke (" + name + ") konnte nicht gefunden werden.");
     // A mark on the first line is found, but index 0 means that no jump is pending, so the run goes on behind the
     // "GOTO".
     run.GotoLine = mark->second;

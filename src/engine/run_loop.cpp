@@ -3,10 +3,9 @@
 #include <string_view>
 #include <utility>
 
-#include "automation/state.h"
-#include "clients/state.h"
 #include "engine/line_form.h"
 #include "engine/line_watch.h"
+#include "engine/reset.h"
 #include "engine/standard_handler.h"
 #include "engine/state.h"
 #include "engine/verbs.h"
@@ -30,21 +29,7 @@ const std::string& Line(std::int32_t index) {
 }
 
 void StartRun(std::int32_t startLine) {
-  run.StopRun = false;
-  run.RunFailed = false;
-  run.ExecEnabled = true;
-  run.CurrentLine = startLine;
-  run.LastError.clear();
-  clients.InputState = 0;
-  automation.DialogTitle.clear();
-  automation.DialogText.clear();
-  if (startLine == 0) {
-    run.LoopBack = false;
-    run.LoopStart = 0;
-    automation.ListIndex = 0;
-    automation.ListCount = 0;
-    clients.MatrixPos = 0;
-  }
+  BeginRun(startLine);
   frmMain.SwitchTray(1);
   frmStatus.ProgressBar.SetMaximum(run.LineCount + 1);
   frmStatus.Info(Text(TextId::RunInProgress));

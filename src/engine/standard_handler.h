@@ -15,13 +15,15 @@ namespace basMain {
 // "Fehler in Funktion %1:" with the routine's name, followed directly by the fault's description.
 std::string StandardErrorText(const std::string& routine, const runtime::Fault& fault);
 
+// A failure that a routine tells of by itself: sets LastError and yields false.
+bool Fail(std::string text);
+
 template <class Body>
 bool Standard(const std::string& routine, Body&& body) {
   try {
     return std::forward<Body>(body)();
   } catch (...) {
-    run.LastError = StandardErrorText(routine, runtime::CaughtFault());
-    return false;
+    return Fail(StandardErrorText(routine, runtime::CaughtFault()));
   }
 }
 

@@ -12,6 +12,9 @@
 namespace basMain {
 
 struct RunState {
+  // Where each run begins, see reset.h.
+  void Begin(std::int32_t startLine);
+
   // The macro: its normalised lines and one empty line more. Replaced by LoadFile.
   std::vector<std::string> MakroLines = {""};
   std::int32_t LineCount = 0;

@@ -112,10 +112,7 @@ bool Stop(const Arguments&, std::string&) {
   return true;
 }
 
-bool RaiseError(const Arguments& a, std::string&) {
-  run.LastError = a[1];
-  return false;
-}
+bool RaiseError(const Arguments& a, std::string&) { return Fail(a[1]); }
 
 bool StoreValue(const Arguments& a, std::string& value) {
   LogWrite("Variable wurde befüllt: " + a[1]);

@@ -20,24 +20,19 @@ TextStream& OpenStream() {
   return *csv.CsvStream;
 }
 
-bool Refuse(const std::string& reason) {
-  run.LastError = reason;
-  return false;
-}
-
 bool ReadField(const std::string& positionText, std::string& value) {
-  if (!runtime::IsNumeric(positionText)) return Refuse("GetCSVValue: Positionsangabe muss numerisch sein.");
+  if (!runtime::IsNumeric(positionText)) return Fail("GetCSVValue: Positionsangabe muss numerisch sein.");
   const std::int16_t position = runtime::ToInteger(positionText);
   // The search minds no case, the split does. In an empty record not even the empty separator is found.
   if (csv.CsvLine.empty() || !runtime::ContainsIgnoringCase(csv.CsvLine, csv.CsvSeparator))
-    return Refuse("GetCSVValue: Trennzeichen in Zeile '" + csv.CsvLine + "' nicht vorhanden.");
+    return Fail("GetCSVValue: Trennzeichen in Zeile '" + csv.CsvLine + "' nicht vorhanden.");
   LogWrite("GetCSVValue Line " + csv.CsvLine);
   const auto fields = runtime::Split(csv.CsvLine, csv.CsvSeparator);
   const std::int64_t last = static_cast<std::int64_t>(fields.size()) - 1;
   // The last field is out of reach: records end in a separator.
   if (position >= last)
-    return Refuse("GetCSVValue: Position geht über Dateiende hinaus. (Pos:" + std::to_string(position) +
-                  " Ende: " + std::to_string(last) + ")");
+    return Fail("GetCSVValue: Position geht über Dateiende hinaus. (Pos:" + std::to_string(position) +
+                " Ende: " + std::to_string(last) + ")");
   value = runtime::Element(fields, static_cast<std::size_t>(position));
   LogWrite("GetCSVValue: Value=" + value);
   return true;
@@ -47,7 +42,7 @@ bool ReadField(const std::string& positionText, std::string& value) {
 
 bool OpenCSV(const std::string& file, const std::string& linesToSkip, const std::string& separator) {
   return Standard("OpenCSV", [&] {
-    if (!FileSystem().FileExists(file)) return Refuse("CSV-Datei (" + file + ") existiert nicht...");
+    if (!FileSystem().FileExists(file)) return Fail("CSV-Datei (" + file + ") existiert nicht...");
     csv.CsvStream = FileSystem().OpenTextFile(file, platform::FileMode::Read);
     for (std::int32_t lines = runtime::ToInteger(linesToSkip); lines > 0; --lines) OpenStream().SkipLine();
     csv.CsvLine = OpenStream().ReadLine();

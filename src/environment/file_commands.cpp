@@ -102,8 +102,7 @@ bool CopyFile(const std::string& source, const std::string& destination) {
     return true;
   } catch (...) {
     const runtime::Fault fault = runtime::CaughtFault();
-    run.LastError = "Fehler " + std::to_string(static_cast<int>(fault.number)) + " beim Kopieren: " + fault.description;
-    return false;
+    return Fail("Fehler " + std::to_string(static_cast<int>(fault.number)) + " beim Kopieren: " + fault.description);
   }
 }
 

@@ -78,10 +78,7 @@ bool SelectAll(const std::string& listId, const std::string& window, const std::
     std::int32_t hWindow = FindAddressedWindow({window, exact});
     if (!parentId.empty()) hWindow = FindFrame(hWindow, parent);
     const std::int32_t list = platform::GetDlgItem(hWindow, id);
-    if (list == 0) {
-      run.LastError = Text(TextId::ListNotSelected);
-      return false;
-    }
+    if (list == 0) return Fail(Text(TextId::ListNotSelected));
     DeliverKeys(hWindow, hWindow, list, "^{a}");
     return VerifySelection(list);
   });

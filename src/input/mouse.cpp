@@ -5,7 +5,6 @@
 
 #include "automation/window_search.h"
 #include "engine/standard_handler.h"
-#include "engine/state.h"
 #include "frame/log.h"
 #include "frame/state.h"
 #include "platform/class_names.h"
@@ -95,10 +94,7 @@ bool MouseClickbyWindowOffset(const std::string& caption, const std::string& but
   constexpr char kName[] = "MouseClickbyWindowOffset";
   return Standard(kName, [&] {
     const std::int32_t window = platform::FindWindowA(platform::kFormClass, caption.c_str());
-    if (window <= 0) {
-      run.LastError = Text(TextId::FunctionFault, kName) + "Fenster konnte nicht gefunden werden.";
-      return false;
-    }
+    if (window <= 0) return Fail(Text(TextId::FunctionFault, kName) + "Fenster konnte nicht gefunden werden.");
     platform::Rect place;
     platform::GetWindowRect(window, place);
     const double twipsX = platform::TwipsPerPixelX();
@@ -116,10 +112,7 @@ bool MouseClickbyWindowOffset(const std::string& caption, const std::string& but
 bool MouseMoveToCtl(const std::string& cls, const std::string& caption) {
   if ((cls + caption).empty()) return false;
   const std::int32_t control = FindChildWindow(frame.MainWindow, cls, caption);
-  if (control == 0) {
-    run.LastError = "Das Steuerelement konnte nicht gefunden werden!";
-    return false;
-  }
+  if (control == 0) return Fail("Das Steuerelement konnte nicht gefunden werden!");
   std::int32_t x = 0;
   std::int32_t y = 0;
   GetControlCorner(control, x, y);

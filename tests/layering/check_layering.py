@@ -25,6 +25,9 @@ LARGEST_CIRCLE = 4
 # The program's start, and what takes the place of a library in it, begin with no header and are built for Windows only.
 START = {"main.cpp", "one_thread.cpp"}
 
+# Where the state of the program is reset.
+RESET = "engine/reset.cpp"
+
 # System headers that only some places may use.
 WINDOWS_HEADERS = {"windows.h", "commctrl.h", "shellapi.h", "commdlg.h", "richedit.h", "winuser.h", "winreg.h"}
 # They make the Windows program far larger than it may be.
@@ -161,14 +164,18 @@ class Symbols:
             and name not in objects.values()
         ]
         defined, wanted = {}, []
+        self.variables = {}  # those that can be written to, by the source that holds them
         for line in self._names(objects):
             path, rest = line.split(": ", 1)
             symbol, kind = rest.split()[:2]
             # What several objects may hold, such as a template's instance, belongs to none of them.
             if kind in "TDBRSGC":
                 defined.setdefault(symbol, objects[path])
+                if kind in "DBSGC":
+                    self.variables[symbol] = objects[path]
             elif kind == "U":
                 wanted.append((objects[path], symbol))
+        self.wanted = set(wanted)
         self.calls = {}  # caller to called to one of the symbols
         for name, symbol in wanted:
             if defined.get(symbol, name) != name:
@@ -252,7 +259,17 @@ def symbol_circle_problems(symbols):
             yield f"floors.txt: no circle among {' '.join(sorted(entry))}"
 
 
-SYMBOL_RULES = [object_problems, symbol_problems, symbol_circle_problems]
+def state_problems(symbols):
+    """What rooms above the ground keep, but for forms and constants, is reset by the one place for it."""
+    for symbol, name in sorted(symbols.variables.items()):
+        variable = _readable(symbol).split("[")[0].split("::")[-1]
+        if name.split("/")[0] in GROUND or re.match(r"frm|k[A-Z]|__", variable):
+            continue
+        if name != RESET and (RESET, symbol) not in symbols.wanted:
+            yield f"{name} keeps {variable}, which {RESET} does not reset"
+
+
+SYMBOL_RULES = [object_problems, symbol_problems, symbol_circle_problems, state_problems]
 
 
 def problems(source, plan, build):

@@ -263,12 +263,12 @@ class BadSymbolsTest(SmallTree):
 
     def test_variable_upwards(self):
         found = self.symbol_problems({
-            "engine/verbs.cpp": "int table = 1;\n",
-            "input/mouse.cpp": "extern int table;\nint Click() { return table; }\n",
+            "engine/verbs.cpp": "extern const int kTable;\nconst int kTable = 1;\n",
+            "input/mouse.cpp": "extern const int kTable;\nint Click() { return kTable; }\n",
         })
         self.assertEqual(
             found,
-            ["input/mouse.cpp calls table of engine/verbs.cpp: upwards from floor 3 (handlers) to floor 4 (engine)"],
+            ["input/mouse.cpp calls kTable of engine/verbs.cpp: upwards from floor 3 (handlers) to floor 4 (engine)"],
         )
 
     def test_what_every_object_holds_calls_nobody(self):
@@ -315,6 +315,15 @@ class BadSymbolsTest(SmallTree):
             found,
             ["more than 4 sources that call each other: input/f0 input/f1 input/f2 input/f3 input/f4"],
         )
+
+    def test_state_that_is_not_reset(self):
+        found = self.symbol_problems({
+            "engine/reset.cpp": "extern int state;\nvoid Reset() { state = 0; }\n",
+            "engine/state.cpp": "int state = 1;\n",
+            "input/mouse.cpp": "int lastButton = 1;\nint kNone = 2;\nint frmMouse = 3;\n",
+            "runtime/text.cpp": "int reserve = 1;\n",
+        })
+        self.assertEqual(found, ["input/mouse.cpp keeps lastButton, which engine/reset.cpp does not reset"])
 
     def test_source_that_was_not_built(self):
         self.write({"input/a.cpp": ""})

@@ -1,19 +1,9 @@
 #include "rehearsal.h"
 
-#include "automation/state.h"
-#include "clients/state.h"
-#include "engine/line_watch.h"
-#include "engine/state.h"
-#include "environment/csv_reader.h"
-#include "environment/file_system.h"
-#include "environment/modRegistry.h"
+#include "engine/reset.h"
 #include "forms/simulated/user.h"
 #include "frame/frmMain.h"
-#include "frame/log.h"
-#include "frame/protocol.h"
 #include "frame/start_up.h"
-#include "frame/state.h"
-#include "input/state.h"
 #include "platform/registry.h"
 #include "platform/simulated/desktop.h"
 
@@ -24,17 +14,7 @@ namespace simulated = platform::simulated;
 namespace {
 
 void ResetSystem() {
-  basMain::log = {};
-  basMain::protocol = {};
-  basMain::FileSystemState.reset();
-  basMain::run = {};
-  basMain::lineWatch = {};
-  basMain::frame = {};
-  basMain::automation = {};
-  basMain::clients = {};
-  basMain::inputRoom = {};
-  basMain::csv = {};
-  modRegistry::state = {};
+  basMain::ResetProgram();
   forms::simulated::Reset();
   simulated::Reset();
   basMain::ConnectForms();
