@@ -5,7 +5,6 @@
 #include <limits>
 #include <span>
 
-#include "automation/SharedMemory.h"
 #include "automation/control_address.h"
 #include "automation/foreign_block.h"
 #include "automation/state.h"
