@@ -34,8 +34,12 @@ const HostFile& OpenedFile(std::int32_t hFile) {
 int OpenHostFile(const std::filesystem::path& host, int flags) {
   return ::_wopen(host.c_str(), flags | O_BINARY | O_NOINHERIT, 0666);
 }
+
+std::int64_t Seek(int descriptor, std::int64_t position) { return ::_lseeki64(descriptor, position, SEEK_SET); }
 #else
 int OpenHostFile(const std::filesystem::path& host, int flags) { return ::open(host.c_str(), flags | O_CLOEXEC, 0666); }
+
+std::int64_t Seek(int descriptor, std::int64_t position) { return ::lseek(descriptor, position, SEEK_SET); }
 #endif
 
 int FlagsOf(FileMode mode) {
@@ -117,7 +121,7 @@ std::int32_t OpenFile(const std::string& path, FileMode mode) {
 
 void SetFilePointer(std::int32_t hFile, std::int64_t position) {
   RaiseIfFailing("SetFilePointer");
-  if (::lseek(OpenedFile(hFile).Descriptor(), position, SEEK_SET) < 0) throw Fault(FaultOfLastError());
+  if (Seek(OpenedFile(hFile).Descriptor(), position) < 0) throw Fault(FaultOfLastError());
 }
 
 std::size_t ReadFile(std::int32_t hFile, char* buffer, std::size_t size) {
