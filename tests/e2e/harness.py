@@ -163,6 +163,10 @@ class EndToEndTest(unittest.TestCase):
 
     # Windows of the program
 
+    def as_it_is(self, window):
+        """A window with its present place and text."""
+        return next(shown for shown in self.probe.windows() if shown.handle == window.handle)
+
     def dialog(self, *texts, title=TITLE):
         """Waits for a window of this title that shows these texts; the program's dialogs share one title."""
 

@@ -28,7 +28,7 @@ class Look:
         # A window manager with other work maps a window later than the system shows it.
         if window is not None:
             self.desktop.x_window(f"^{re.escape(window.text)}$")
-            window = next(shown for shown in self.probe.windows() if shown.handle == window.handle)
+            window = self.as_it_is(window)
         self.desktop.command(["sleep", "0.3"])
         self.desktop.screenshot(RESULTS / "look" / str(self.dpi) / f"{name}.png")
         if window is not None:

@@ -39,16 +39,21 @@ class PointerTest(test_input.InputTest):
             self.lay("TERU.EXE.manifest", MANIFEST)
         self.open_payments(program=program)
         # A click of the user into the margin tells how the stand-in counts.
-        left, _, _, bottom = self.window.place
         larger = self.dpi / 96
-        x, y = round(left + 10 * larger), round(bottom - 12 * larger)
+
+        def margin():
+            # The window manager may have moved the form since it came up.
+            self.window = self.as_it_is(self.window)
+            left, _, _, bottom = self.window.place
+            return round(left + 10 * larger), round(bottom - 12 * larger)
 
         def clicked():
-            self.desktop.click(x, y)
+            self.desktop.click(*margin())
             # A second click that comes while the first one is still on its way would count, too.
             return wait_quietly(self.clicks, seconds=10)
 
         wait_until(clicked, "a click into the form", interval=1)
+        _, y = margin()
         _, own_y = self.place_of_click(0)
         self.scale = larger if abs(own_y * larger - y) < abs(own_y - y) else 1
         self.assertAlmostEqual(own_y, y / self.scale, delta=1)
