@@ -2,7 +2,9 @@
 #include <string>
 #include <string_view>
 
+#include "argument_names.h"
 #include "engine/parser.h"
+#include "input/key_notation.h"
 #include "nearest.h"
 #include "rules.h"
 #include "runtime/conversions.h"
@@ -18,7 +20,8 @@ using runtime::ToUpper;
 using runtime::Trim;
 
 constexpr std::size_t kArguments = std::tuple_size_v<basMain::Arguments> - 1;  // that reach a verb
-constexpr std::int32_t kLargestCommandId = 32767;
+constexpr std::string_view kBlankKey = "{SPACE}";  // as the whole text only
+constexpr std::string_view kMainWindow = "%MAINWINDOW%";
 constexpr std::int32_t kLastDateField = 20;
 
 // What is behind a comma of their text is rather its rest than an argument.
@@ -112,7 +115,7 @@ class ArgumentRules {
   void CheckMissing(const std::vector<ArgumentFact>& facts) {
     for (std::size_t i = 0; i < facts.size(); ++i) {
       if (!line_->Text(i + 1).empty() || !IsNeeded(facts, i)) continue;
-      Add(FindingId::MissingArgument, line_->Whole(), {line_->word, std::to_string(i + 1), std::string(facts[i].name)});
+      Add(FindingId::MissingArgument, line_->Whole(), {line_->word, std::to_string(i + 1), ArgumentName(facts[i].name)});
       return;
     }
   }
@@ -140,7 +143,7 @@ class ArgumentRules {
       if (fact.kind == ArgumentKind::Destination) CheckDestination(argument);
       return;
     }
-    const std::string name(fact.name);
+    const std::string name = ArgumentName(fact.name);
     switch (fact.kind) {
       case ArgumentKind::Number:
         if (!IsLong(argument.text)) Add(FindingId::NotANumber, argument, {argument.text, name});
@@ -164,19 +167,29 @@ class ArgumentRules {
         break;
       case ArgumentKind::CommandId:
         if (!IsLong(argument.text)) Add(FindingId::NotAnId, argument, {argument.text, name});
-        else if (runtime::ToLong(argument.text) > kLargestCommandId) Add(FindingId::IdTooLarge, argument, {argument.text});
+        else if (!IsInteger(argument.text)) Add(FindingId::IdTooLarge, argument, {argument.text});
         break;
       case ArgumentKind::Exact:
-        if (const auto exact = Trim(argument.text); exact != "0" && exact != "1") Add(FindingId::DoubtfulWord, argument, {argument.text, "1, 0"});
+        if (const auto exact = Trim(argument.text); exact != "0" && exact != "1")
+          Add(FindingId::DoubtfulWord, argument, {argument.text, "1, 0"});
         break;
       case ArgumentKind::Word:
         CheckWord(argument);
+        break;
+      case ArgumentKind::Window:
+        if (ToUpper(argument.text) == kMainWindow && !(argument.text == kMainWindow && line_->word.ends_with("MENUCLICK")))
+          Add(FindingId::MainWindowWord, argument, {argument.text});
         break;
       case ArgumentKind::Destination:
         CheckDestination(argument);
         break;
       case ArgumentKind::Pattern:
         CheckPattern(argument);
+        break;
+      case ArgumentKind::Keys:
+        if (!runtime::EqualIgnoringCase(argument.text, kBlankKey) &&
+            !Converts(argument.text, [](std::string_view keys) { return key_notation::Parse(keys); }))
+          Add(FindingId::UnknownKeys, argument, {argument.text});
         break;
       default:
         break;

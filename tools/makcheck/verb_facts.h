@@ -59,6 +59,9 @@ inline constexpr const char* kClasses[] = {
     "ThunderRT6ComboBox", "ThunderRT6CommandButton", "ThunderRT6Frame", "ThunderRT6OptionButton", "ThunderRT6Textbox",
     "ThunderRT6UserControlDC"};
 
+// Whether a verb has a value to assign.
+bool Yields(const basMain::Verb& verb);
+
 // The verb of a word in upper case; nullptr for none.
 const basMain::Verb* FindVerb(std::string_view word);
 
