@@ -152,7 +152,9 @@ def main():
         build("native", totals)
         google_suite(BUILD / "native" / "qumaexp_tests", totals)
         google_suite(BUILD / "native" / "platform_contract_tests", totals)
+        google_suite(BUILD / "native" / "makcheck_tests", totals)
         run_suite(totals, *python_suite("makrun", ROOT / "tests" / "makrun", 600))
+        run_suite(totals, *python_suite("makcheck", ROOT / "tests" / "makcheck", 600))
         run_suite(totals, *python_suite("benchmarks", ROOT / "tests" / "bench", 600))
         first_half.finish(totals)
         # It needs makrun of the native build, and the desktop that the first half has left.
