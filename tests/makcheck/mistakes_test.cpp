@@ -123,6 +123,17 @@ TEST(Mistakes, AnIdBelowWhatACommandCarries) {
   EXPECT_EQ(List{}, Places("BUTTONCLICK=-32768,Export"));
 }
 
+TEST(Mistakes, AFolderWhereAFileIsWaitedFor) {
+  const std::string status = "DISPLAY=a\nDIM Ordner\nOrdner=CREATEDIR(C:\\x)\n";
+  EXPECT_EQ(List{"4:13 wait-folder"}, Places(status + "WAITFORFILE=$TERUPATH\\Daten\nMSG=Ordner"));
+  EXPECT_EQ(List{"4:13 wait-folder"}, Places(status + "WAITFORFILE=Ordner"));
+  EXPECT_EQ(List{"4:13 wait-folder"}, Places(status + "WAITFORFILE=C:\\Daten\\\nMSG=Ordner"));
+  EXPECT_EQ(List{"4:13 wait-folder"}, Places(status + "WAITFORFILE='$GDPDUPATH'\nMSG=Ordner"));
+  EXPECT_EQ(List{}, Places(status + "WAITFORFILE=$TERUPATH\\Daten\\a.csv\nMSG=Ordner"));
+  EXPECT_EQ(List{}, Places(status + "WAITFORFILE=C:\\Daten\\*.csv\nMSG=Ordner"));
+  EXPECT_EQ(List{}, Places(status + "WAITFORFILE=$CTLPATH\nMSG=Ordner"));
+}
+
 TEST(Mistakes, ABlankAtAMarkIsToldOnce) {
   EXPECT_EQ(List{"1:6 blank-at-equals"}, Places("GOTO= Ende\nMARK=Ende"));
   EXPECT_EQ(List{"2:6 blank-at-equals"}, Places("GOTO=Ende\nMARK= Ende"));

@@ -33,6 +33,9 @@ constexpr std::string_view kTextVerbs[] = {"MSG",           "MESSAGEOUT",   "RAI
 constexpr std::string_view kNameValues[] = {"$MANDANTNAME", "$MATRIXBEREICH", "$PATH",        "$GDPDUPATH",
                                             "$FIBUPATH",    "$ANLPATH",       "$MANDANTPATH", "$FIBUMANDANTPATH"};
 
+constexpr std::string_view kFolderValues[] = {"$PATH",        "$GDPDUPATH",       "$FIBUPATH", "$ANLPATH",
+                                              "$MANDANTPATH", "$FIBUMANDANTPATH", "$TEMP",     "$TERUPATH"};
+
 template <class Range>
 bool Holds(const Range& range, std::string_view word) {
   return std::find(std::begin(range), std::end(range), word) != std::end(range);
@@ -141,6 +144,7 @@ class ArgumentRules {
   void CheckArgument(const ArgumentFact& fact, const Argument& argument) {
     if (argument.text.empty() || Computed(argument)) {
       if (fact.kind == ArgumentKind::Destination) CheckDestination(argument);
+      else if (line_->Is("WAITFORFILE") && IsFolder(argument)) Add(FindingId::WaitFolder, argument, {argument.text});
       return;
     }
     const std::string name = ArgumentName(fact.name);
@@ -219,12 +223,27 @@ class ArgumentRules {
     Replace(FindingId::DestinationNotAFolder, argument, {argument.text}, quote + argument.text + "\\" + quote);
   }
 
+  // A path whose last part has no extension, or is a path of the program's own, or what CREATEDIR has made.
+  bool IsFolder(const Argument& argument) const {
+    if (const Variable* variable = macro_.DeclaredBefore(argument.text, index_); variable != nullptr) {
+      const auto& assigned = variable->assignments;
+      return !assigned.empty() && std::all_of(assigned.begin(), assigned.end(), [this](std::size_t line) {
+        return macro_.Lines()[line].Is("CREATEDIR");
+      });
+    }
+    const auto backslash = argument.text.rfind('\\');
+    const std::string last = backslash == std::string::npos ? argument.text : argument.text.substr(backslash + 1);
+    if (last.find('$') != std::string::npos) return Holds(kFolderValues, last);
+    return backslash != std::string::npos && last.find('.') == std::string::npos;
+  }
+
   void CheckPattern(const Argument& argument) {
     const bool pattern = argument.text.find_first_of("*?") != std::string::npos;
     const bool all = Contains(argument.text, "*.*");
     if (line_->Is("WAITFORFILE")) {
       if (argument.text.ends_with(".*") || Contains(argument.text, "?"))
         Add(FindingId::WaitPattern, argument, {argument.text});
+      else if (IsFolder(argument)) Add(FindingId::WaitFolder, argument, {argument.text});
     } else if (!line_->Is("COPYFILE") && pattern && !all) {
       Add(FindingId::DeletePattern, argument, {argument.text});
     }

@@ -223,6 +223,11 @@ constexpr FindingKind kKinds[] = {
       u8"Von einem Muster beachtet WAITFORFILE nur Ordner und Endung. Keine Datei hat die Endung „.*“, und das Warten endet "
       u8"nie."},
      u8"DISPLAYSTATUS=Warten...\nWAITFORFILE=C:\\Export\\*.*", u8"DISPLAYSTATUS=Warten...\nWAITFORFILE=C:\\Export\\*.csv"},
+    {Id::WaitFolder, "wait-folder", Warning,
+     {u8"\"%1\" is rather a folder; WAITFORFILE waits for a file in it: name the file with its extension",
+      u8"„%1“ ist wohl ein Ordner; WAITFORFILE wartet auf eine Datei darin: die Datei mit ihrer Endung nennen"},
+     {u8"A folder is no file, and the wait for it has no end.", u8"Ein Ordner ist keine Datei, und das Warten auf ihn endet nie."},
+     u8"DISPLAYSTATUS=Warten...\nWAITFORFILE=C:\\Export", u8"DISPLAYSTATUS=Warten...\nWAITFORFILE=C:\\Export\\Konten.csv"},
     {Id::UnknownKeys, "unknown-keys", Warning,
      {u8"\"%1\" sends nothing: an unknown name of a key, or a brace or parenthesis without its partner",
       u8"„%1“ sendet nichts: ein unbekannter Tastenname, oder eine Klammer ohne Gegenstück"},

@@ -50,6 +50,7 @@ enum class FindingId {
   BlankInArgument,
   DeletePattern,
   WaitPattern,
+  WaitFolder,
   UnknownKeys,
   UnquotedValue,
   UnknownDollarWord,
