@@ -31,6 +31,12 @@ class BenchTest(unittest.TestCase):
         expected = [f"{verb}/10000" for verb in ("SAVECLIPBOARD", "SAVECLIPBOARDZVK")]
         self.assertEqual(self.run_small("clipboard_bench"), expected)
 
+    def test_checker(self):
+        kinds = ["ordinary", "variables", "marks", "missing marks", "jumps to unknown places", "unknown verbs", "conditions",
+                 "loose ends", "long line"]
+        expected = [f"{kind}/check/1000" for kind in kinds] + ["ordinary/change/1000"]
+        self.assertEqual(self.run_small("checker_bench"), expected)
+
     def test_an_option_that_does_not_exist_is_refused(self):
         self.run_small("engine_bench", "--gibtesnicht", status=64)
 

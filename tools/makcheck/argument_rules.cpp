@@ -2,7 +2,9 @@
 #include <string>
 #include <string_view>
 
+#include "argument_names.h"
 #include "engine/parser.h"
+#include "input/key_notation.h"
 #include "nearest.h"
 #include "rules.h"
 #include "runtime/conversions.h"
@@ -18,7 +20,8 @@ using runtime::ToUpper;
 using runtime::Trim;
 
 constexpr std::size_t kArguments = std::tuple_size_v<basMain::Arguments> - 1;  // that reach a verb
-constexpr std::int32_t kLargestCommandId = 32767;
+constexpr std::string_view kBlankKey = "{SPACE}";  // as the whole text only
+constexpr std::string_view kMainWindow = "%MAINWINDOW%";
 constexpr std::int32_t kLastDateField = 20;
 
 // What is behind a comma of their text is rather its rest than an argument.
@@ -29,6 +32,9 @@ constexpr std::string_view kTextVerbs[] = {"MSG",           "MESSAGEOUT",   "RAI
 // Values that take the name of a client or an area along, and a name may hold a comma.
 constexpr std::string_view kNameValues[] = {"$MANDANTNAME", "$MATRIXBEREICH", "$PATH",        "$GDPDUPATH",
                                             "$FIBUPATH",    "$ANLPATH",       "$MANDANTPATH", "$FIBUMANDANTPATH"};
+
+constexpr std::string_view kFolderValues[] = {"$PATH",        "$GDPDUPATH",       "$FIBUPATH", "$ANLPATH",
+                                              "$MANDANTPATH", "$FIBUMANDANTPATH", "$TEMP",     "$TERUPATH"};
 
 template <class Range>
 bool Holds(const Range& range, std::string_view word) {
@@ -112,7 +118,7 @@ class ArgumentRules {
   void CheckMissing(const std::vector<ArgumentFact>& facts) {
     for (std::size_t i = 0; i < facts.size(); ++i) {
       if (!line_->Text(i + 1).empty() || !IsNeeded(facts, i)) continue;
-      Add(FindingId::MissingArgument, line_->Whole(), {line_->word, std::to_string(i + 1), std::string(facts[i].name)});
+      Add(FindingId::MissingArgument, line_->Whole(), {line_->word, std::to_string(i + 1), ArgumentName(facts[i].name)});
       return;
     }
   }
@@ -138,9 +144,10 @@ class ArgumentRules {
   void CheckArgument(const ArgumentFact& fact, const Argument& argument) {
     if (argument.text.empty() || Computed(argument)) {
       if (fact.kind == ArgumentKind::Destination) CheckDestination(argument);
+      else if (line_->Is("WAITFORFILE") && IsFolder(argument)) Add(FindingId::WaitFolder, argument, {argument.text});
       return;
     }
-    const std::string name(fact.name);
+    const std::string name = ArgumentName(fact.name);
     switch (fact.kind) {
       case ArgumentKind::Number:
         if (!IsLong(argument.text)) Add(FindingId::NotANumber, argument, {argument.text, name});
@@ -164,19 +171,29 @@ class ArgumentRules {
         break;
       case ArgumentKind::CommandId:
         if (!IsLong(argument.text)) Add(FindingId::NotAnId, argument, {argument.text, name});
-        else if (runtime::ToLong(argument.text) > kLargestCommandId) Add(FindingId::IdTooLarge, argument, {argument.text});
+        else if (!IsInteger(argument.text)) Add(FindingId::IdTooLarge, argument, {argument.text});
         break;
       case ArgumentKind::Exact:
-        if (const auto exact = Trim(argument.text); exact != "0" && exact != "1") Add(FindingId::DoubtfulWord, argument, {argument.text, "1, 0"});
+        if (const auto exact = Trim(argument.text); exact != "0" && exact != "1")
+          Add(FindingId::DoubtfulWord, argument, {argument.text, "1, 0"});
         break;
       case ArgumentKind::Word:
         CheckWord(argument);
+        break;
+      case ArgumentKind::Window:
+        if (ToUpper(argument.text) == kMainWindow && !(argument.text == kMainWindow && line_->word.ends_with("MENUCLICK")))
+          Add(FindingId::MainWindowWord, argument, {argument.text});
         break;
       case ArgumentKind::Destination:
         CheckDestination(argument);
         break;
       case ArgumentKind::Pattern:
         CheckPattern(argument);
+        break;
+      case ArgumentKind::Keys:
+        if (!runtime::EqualIgnoringCase(argument.text, kBlankKey) &&
+            !Converts(argument.text, [](std::string_view keys) { return key_notation::Parse(keys); }))
+          Add(FindingId::UnknownKeys, argument, {argument.text});
         break;
       default:
         break;
@@ -206,12 +223,27 @@ class ArgumentRules {
     Replace(FindingId::DestinationNotAFolder, argument, {argument.text}, quote + argument.text + "\\" + quote);
   }
 
+  // A path whose last part has no extension, or is a path of the program's own, or what CREATEDIR has made.
+  bool IsFolder(const Argument& argument) const {
+    if (const Variable* variable = macro_.DeclaredBefore(argument.text, index_); variable != nullptr) {
+      const auto& assigned = variable->assignments;
+      return !assigned.empty() && std::all_of(assigned.begin(), assigned.end(), [this](std::size_t line) {
+        return macro_.Lines()[line].Is("CREATEDIR");
+      });
+    }
+    const auto backslash = argument.text.rfind('\\');
+    const std::string last = backslash == std::string::npos ? argument.text : argument.text.substr(backslash + 1);
+    if (last.find('$') != std::string::npos) return Holds(kFolderValues, last);
+    return backslash != std::string::npos && last.find('.') == std::string::npos;
+  }
+
   void CheckPattern(const Argument& argument) {
     const bool pattern = argument.text.find_first_of("*?") != std::string::npos;
     const bool all = Contains(argument.text, "*.*");
     if (line_->Is("WAITFORFILE")) {
       if (argument.text.ends_with(".*") || Contains(argument.text, "?"))
         Add(FindingId::WaitPattern, argument, {argument.text});
+      else if (IsFolder(argument)) Add(FindingId::WaitFolder, argument, {argument.text});
     } else if (!line_->Is("COPYFILE") && pattern && !all) {
       Add(FindingId::DeletePattern, argument, {argument.text});
     }

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "engine/line_form.h"
+#include "nearest.h"
 #include "rules.h"
 #include "runtime/text.h"
 
@@ -46,7 +47,18 @@ bool All(States states, Test test) {
 
 bool InCondition(State state) { return state.condition != Condition::None; }
 
-bool IsEndIf(const Line& line) { return line.Is("ENDIF") || line.Is("END IF"); }
+constexpr std::size_t kSlips = 2;  // letters that are wrong in a word that is still plain
+
+// A misspelled end or beginning of a block is told by itself; what belongs to it is not told again.
+bool IsMisspelled(const Line& line, std::string_view beginning) {
+  return line.verb == nullptr && !line.assignment && line.word.starts_with(beginning);
+}
+bool BeginsCondition(const Line& line) { return IsCondition(line) || IsMisspelled(line, "IF"); }
+bool EndsCondition(const Line& line) {
+  return line.Is("ENDIF") || line.Is("END IF") || (IsMisspelled(line, "END") && Distance(line.word, "END IF", kSlips) <= kSlips);
+}
+bool BeginsLoop(const Line& line) { return line.Is("DO") || IsMisspelled(line, "DO "); }
+bool EndsLoop(const Line& line) { return IsLoopEnd(line) || IsMisspelled(line, "LOOP"); }
 bool IsStop(const Line& line) { return line.Is("STOP") || line.Is("HOLD"); }
 bool IsWait(const Line& line) { return line.verb != nullptr && line.word.starts_with("WAITFOR"); }
 
@@ -71,8 +83,8 @@ class Flow {
       }
       dead = false;
       CheckBlocks(line, states, conditionLine, loopLine);
-      if (IsCondition(line)) conditionLine = index_;
-      if (line.Is("DO")) loopLine = index_;
+      if (BeginsCondition(line)) conditionLine = index_;
+      if (BeginsLoop(line)) loopLine = index_;
     }
     CheckPartners();
     CheckBefore();
@@ -111,6 +123,12 @@ class Flow {
     waiting_.push_back(index);
   }
 
+  void ReachMarks(States states) {
+    if ((marksReached_ & states) == states) return;
+    marksReached_ |= states;
+    for (const auto& [key, lines] : macro_.Marks()) Reach(lines.front(), states);
+  }
+
   // From a line in one state to the lines that can follow it.
   void Step(std::size_t index, State state) {
     const Line& line = macro_.Lines()[index];
@@ -122,16 +140,16 @@ class Flow {
       if (target < macro_.Lines().size()) Reach(target, Only({Condition::None, loop}));
       // A mark that only a run knows can be any; then no mark is dead.
       else if (!line.arguments.empty() && IsComputed(macro_, index, line.arguments[0]))
-        for (const auto& [key, lines] : macro_.Marks()) Reach(lines.front(), Only({Condition::None, loop}));
+        ReachMarks(Only({Condition::None, loop}));
       if (target == macro_.Lines().size()) Reach(index + 1, Only(state));  // it fails, and the run may be resumed
     }
     if (!maySkip && ((isJump && TargetOf(index) < macro_.Lines().size()) || IsStop(line))) return;
-    if (IsCondition(line)) state.condition = Condition::If;
+    if (BeginsCondition(line)) state.condition = Condition::If;
     else if (line.Is("ELSE")) state.condition = state.condition == Condition::Else ? Condition::If : Condition::Else;
-    else if (IsEndIf(line)) state.condition = Condition::None;
-    if (line.Is("DO") || IsLoopEnd(line)) {
+    else if (EndsCondition(line)) state.condition = Condition::None;
+    if (BeginsLoop(line) || EndsLoop(line)) {
       if (maySkip) Reach(index + 1, Only(state));
-      state.loop = line.Is("DO") ? Loop::Open : Loop::None;
+      state.loop = BeginsLoop(line) ? Loop::Open : Loop::None;
     }
     Reach(index + 1, Only(state));
   }
@@ -146,10 +164,12 @@ class Flow {
       else if (All(states, [](State state) { return state.condition == Condition::Else; }))
         Add(FindingId::SecondElse, line.PlaceOfWord(), {sinceCondition});
     }
-    if (IsEndIf(line) && !Any(states, InCondition) && !EndsConditionOfAJump())
+    if (EndsCondition(line) && !Any(states, InCondition) && !EndsConditionOfAJump())
       Add(FindingId::EndIfWithoutIf, line.PlaceOfWord());
-    if (line.Is("DO") && Any(states, [](State state) { return state.loop == Loop::Open; }))
+    if (BeginsLoop(line) && Any(states, [](State state) { return state.loop == Loop::Open; }))
       Add(FindingId::NestedLoop, line.PlaceOfWord(), {sinceLoop});
+    if (IsLoopEnd(line) && conditionLine > loopLine && All(states, InCondition))
+      Add(FindingId::LoopEndInCondition, line.PlaceOfWord(), {line.word, sinceCondition});
     if (IsLoopEnd(line) && All(states, [](State state) { return state.loop == Loop::None; }))
       Add(FindingId::LoopEndWithoutDo, line.PlaceOfWord(), {line.word});
   }
@@ -158,14 +178,14 @@ class Flow {
   bool EndsConditionOfAJump() const {
     for (std::size_t i = index_; i-- > 0;) {
       const Line& line = macro_.Lines()[i];
-      if (IsEndIf(line)) return false;
-      if (IsCondition(line)) return true;
+      if (EndsCondition(line)) return false;
+      if (BeginsCondition(line)) return true;
     }
     return false;
   }
 
-  // Each "IF" must come to an "ENDIF", and each "DO" to a loop end, before the next of its kind: found from behind, so
-  // that each line is looked at once.
+  // Each "IF" must come to an "ENDIF", and each "DO" to a loop end: found from behind, so that each line is looked at
+  // once. One that comes to another "IF" or "DO" first is told there.
   void CheckPartners() {
     const std::size_t count = macro_.Lines().size();
     bool endIfAhead = false;
@@ -173,20 +193,18 @@ class Flow {
     for (index_ = count; index_-- > 0;) {
       const Line& line = macro_.Lines()[index_];
       if (line.form != LineForm::Statement || reached_[index_] == 0) continue;
-      if (IsEndIf(line)) endIfAhead = true;
-      if (IsLoopEnd(line)) loopEndAhead = true;
+      if (EndsCondition(line)) endIfAhead = true;
+      if (EndsLoop(line)) loopEndAhead = true;
       if (line.Is("GOTO") && !line.assignment) {
         // What is behind the target is ahead, too; of a jump back it was not looked at yet.
         endIfAhead = endIfAhead || JumpsBack(index_);
         loopEndAhead = loopEndAhead || JumpsBack(index_);
       }
-      if (IsCondition(line)) {
-        if (!endIfAhead) Add(FindingId::IfWithoutEndIf, line.PlaceOfWord(), {line.word});
-        endIfAhead = false;
+      if (BeginsCondition(line)) {
+        if (!endIfAhead && line.verb != nullptr) Add(FindingId::IfWithoutEndIf, line.PlaceOfWord(), {line.word});
       }
-      if (line.Is("DO")) {
+      if (BeginsLoop(line)) {
         if (!loopEndAhead) Add(FindingId::DoWithoutLoopEnd, line.PlaceOfWord());
-        loopEndAhead = false;
       }
     }
   }
@@ -211,11 +229,13 @@ class Flow {
       const bool needsFocus = line.Is("SELECTALL") || line.Is("IF SELECTALL") || line.Is("SENDKEY");
       if (needsFocus && !focus) Add(FindingId::NoFocus, line.PlaceOfWord(), {line.word});
       if (IsWait(line) && !status) Add(FindingId::SilentWait, line.PlaceOfWord(), {line.word});
-      if (line.Is("LOOP UNTIL COUNT") && (!checkYear || !nextYear)) {
-        std::string missing = checkYear ? "" : "IF VJ";
-        if (!nextYear) missing += missing.empty() ? "NEXT VJ" : ", NEXT VJ";
+      // Without $WJ it walks the rows of a list alone.
+      if (line.Is("LOOP UNTIL COUNT") && !(checkYear && nextYear)) {
+        std::string missing;
+        if (!checkYear) missing += ", IF VJ";
+        if (!nextYear) missing += ", NEXT VJ";
         if (!year) missing += ", $WJ";
-        Add(FindingId::EndlessCount, line.PlaceOfWord(), {missing});
+        Add(FindingId::EndlessCount, line.PlaceOfWord(), {missing.substr(2)});
       }
     }
   }
@@ -223,6 +243,7 @@ class Flow {
   const Macro& macro_;
   Findings& findings_;
   std::vector<States> reached_;
+  States marksReached_ = 0;  // the states in which all of them are
   std::deque<std::size_t> waiting_;
   std::size_t index_ = 0;
 };

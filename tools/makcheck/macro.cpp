@@ -33,17 +33,15 @@ void TakeCommandApart(Line& line) {
 // walked side by side.
 Span Line::Place(std::size_t start, std::size_t end) const {
   std::size_t at = assignment ? raw.find('=') + 1 : 0;
-  Span place = {raw.size(), raw.size()};
-  for (std::size_t i = 0; i < command.size() && i <= end; ++i, ++at) {
-    const char wanted = assignment && command[i] == '=' ? '(' : command[i];
+  while (places_.size() < command.size()) {
+    const char character = command[places_.size()];
+    const char wanted = assignment && character == '=' ? '(' : character;
     while (at < raw.size() && raw[at] != wanted) ++at;
-    if (i == start) place.start = at;
-    if (i == end) place.end = at;
-    if (i + 1 == end) place.end = at + 1;
+    places_.push_back(std::min(at++, raw.size()));
   }
-  place.start = std::min(place.start, raw.size());
-  place.end = std::clamp(place.end, place.start, raw.size());
-  return place;
+  const std::size_t behind = places_.empty() ? raw.size() : std::min(places_.back() + 1, raw.size());
+  const auto place = [&](std::size_t i) { return i < places_.size() ? places_[i] : behind; };
+  return {place(start), std::max(place(start), place(end))};
 }
 
 Span Line::Whole() const {

@@ -47,6 +47,9 @@ struct Line {
   // The text of an argument counted from 1; empty when it is not given.
   std::string_view Text(std::size_t number) const;
   bool Is(std::string_view verbWord) const { return verb != nullptr && word == verbWord; }
+
+ private:
+  mutable std::vector<std::size_t> places_;  // of the characters of `command` in `raw`, once they are asked for
 };
 
 struct Variable {

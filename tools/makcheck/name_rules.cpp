@@ -13,8 +13,8 @@ namespace makcheck {
 namespace {
 
 using basMain::LineForm;
-using basMain::VerbKind;
 using runtime::ToUpper;
+using runtime::Trim;
 
 // Their value is all that they are for.
 constexpr std::string_view kValueVerbs[] = {"VALUE",        "READINI",    "PARSE",    "CSVVALUE",
@@ -25,10 +25,16 @@ constexpr std::string_view kProse[] = {
     "ADDPROTOCOL",   "SHOWINPUTDLG",  "SHOWINPUTANL",     "VALUE",          "SHOWINPUTMERANL",
     "CONFIRMDIALOG", "WAITFORDIALOG", "IF CONFIRMDIALOG", "SHOWINPUTMERFIB"};
 
-template <class Range>
-bool Holds(const Range& range, std::string_view word) {
-  return std::find(std::begin(range), std::end(range), word) != std::end(range);
+// With so many names of marks the missing ones of a macro are compared: of thousands of each, nobody asks for the nearest.
+constexpr std::size_t kComparisons = 200'000;
+
+template <class Range, class Wanted>
+bool Holds(const Range& range, const Wanted& wanted) {
+  return std::find(std::begin(range), std::end(range), wanted) != std::end(range);
 }
+
+constexpr ArgumentKind kCaseless[] = {ArgumentKind::Class, ArgumentKind::FrameClass, ArgumentKind::Word,
+                                      ArgumentKind::Mark};
 
 bool IsWordCharacter(char c) {
   return runtime::IsDigit(c) || c == '_' || c == '\xDF' ||
@@ -45,6 +51,7 @@ class NameRules {
   NameRules(const Macro& macro, Findings& findings) : macro_(macro), findings_(findings) {
     for (const auto& [key, lines] : macro.Marks()) markNames_.push_back(key.substr(std::string_view("MARK=").size()));
     std::sort(markNames_.begin(), markNames_.end());
+    for (const auto& [name, variable] : macro.Variables()) folded_.try_emplace(ToUpper(name), name);
   }
 
   void Check() {
@@ -56,7 +63,10 @@ class NameRules {
       if (line.verb == nullptr) continue;
       CheckValue(line);
       CheckMarks(line);
-      for (const Argument& argument : line.arguments) CheckVariableUse(line, argument);
+      for (std::size_t i = 0; i < line.arguments.size(); ++i) {
+        CheckVariableUse(line, line.arguments[i]);
+        CheckCase(line, i);
+      }
     }
     CheckUnread();
   }
@@ -95,8 +105,7 @@ class NameRules {
   }
 
   void CheckValue(const Line& line) {
-    const bool yields = line.verb->kind == VerbKind::Value || line.verb->kind == VerbKind::ForcedValue;
-    if (line.assignment && !yields) Add(FindingId::NoValue, line.Whole(), {line.word, line.name});
+    if (line.assignment && !Yields(*line.verb)) Add(FindingId::NoValue, line.Whole(), {line.word, line.name});
     if (!line.assignment && Holds(kValueVerbs, line.word)) Add(FindingId::LostValue, line.Whole(), {line.word});
   }
 
@@ -124,7 +133,10 @@ class NameRules {
     const std::string name(line.Text(1));
     if (name.empty() || macro_.FindMark(name) != nullptr) return;
     const Span span = line.PlaceOf(line.arguments[0]);
-    const std::string near = Nearest(name, markNames_);
+    if (macro_.FindMark(Trim(name)) != nullptr || macro_.FindMark(" " + name) != nullptr) return;  // its blank is told
+    std::string near;
+    if (comparisons_ < kComparisons) near = Nearest(name, markNames_);
+    comparisons_ += markNames_.size();
     if (near.empty()) Add(FindingId::MissingMark, span, {name});
     else Add(FindingId::MisspelledMark, span, {name, near}, {{index_, span, near}});
   }
@@ -137,6 +149,18 @@ class NameRules {
       return;
     }
     CheckVariableInText(line, argument);
+  }
+
+  // A name in other letters stays text. Classes, words of a verb and marks mind no case and may be called the same.
+  void CheckCase(const Line& line, std::size_t i) {
+    const Argument& argument = line.arguments[i];
+    const auto& facts = ArgumentsOf(*line.verb);
+    if (argument.quoted || i >= facts.size() || Holds(kCaseless, facts[i].kind)) return;
+    const auto other = folded_.find(ToUpper(argument.text));
+    if (other == folded_.end() || macro_.DeclaredBefore(other->second, index_) == nullptr) return;
+    if (macro_.DeclaredBefore(argument.text, index_) != nullptr) return;
+    const Span span = line.PlaceOf(argument);
+    Add(FindingId::ArgumentCase, span, {argument.text, other->second}, {{index_, span, other->second}});
   }
 
   // The words of a longer argument that are names of variables. In a text for a reader only a last word counts, since
@@ -165,6 +189,8 @@ class NameRules {
   const Macro& macro_;
   Findings& findings_;
   std::vector<std::string> markNames_;
+  std::unordered_map<std::string, std::string> folded_;  // names of variables, by their upper case
+  std::size_t comparisons_ = 0;  // with names of marks, so far
   std::size_t index_ = 0;
 };
 

@@ -2,26 +2,39 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "engine/built_in_variables.h"
 #include "engine/verbs.h"
 #include "runtime/text.h"
+#include "verb_facts.h"
 
 namespace makcheck {
 namespace {
 
 constexpr std::size_t kLongest = 40;  // of the words that are compared
 
+// What verbs are called elsewhere, and in German.
+constexpr std::pair<std::string_view, std::string_view> kElsewhere[] = {
+    {"EXIT", "STOP"}, {"QUIT", "STOP"},  {"END", "STOP"},   {"ENDE", "STOP"},  {"PAUSE", "WAIT"},     {"WARTE", "WAIT"},
+    {"WARTEN", "WAIT"}, {"PRINT", "MSG"}, {"ECHO", "MSG"},  {"MSGBOX", "MSG"}, {"MELDUNG", "MSG"},    {"MARKE", "MARK"},
+    {"SPRINGE", "GOTO"}, {"JUMP", "GOTO"}, {"RUN", "EXEC"}, {"START", "EXEC"}, {"WAITFORBOX", "WAITFORDIALOG"},
+};
+
 // A third of the letters may be wrong.
 std::size_t Tolerance(std::string_view word) { return std::clamp<std::size_t>(word.size() / 3, 1, 4); }
 
-const std::vector<std::string>& VerbWords() {
-  static const auto kWords = [] {
-    std::vector<std::string> words;
-    for (const basMain::Verb& verb : basMain::Verbs()) words.emplace_back(verb.word);
-    return words;
-  }();
-  return kWords;
+std::vector<std::string> WordsOfVerbs(bool yielding) {
+  std::vector<std::string> words;
+  for (const basMain::Verb& verb : basMain::Verbs())
+    if (!yielding || Yields(verb)) words.emplace_back(verb.word);
+  return words;
+}
+
+const std::vector<std::string>& VerbWords(bool yielding) {
+  static const auto kAll = WordsOfVerbs(false);
+  static const auto kYielding = WordsOfVerbs(true);
+  return yielding ? kYielding : kAll;
 }
 
 }  // namespace
@@ -53,6 +66,7 @@ std::string Nearest(std::string_view word, std::span<const std::string> candidat
   std::size_t limit = Tolerance(wanted);
   std::string nearest;
   for (const std::string& candidate : candidates) {
+    if (std::max(wanted.size(), candidate.size()) > std::min(wanted.size(), candidate.size()) + limit) continue;
     const std::size_t distance = Distance(wanted, runtime::ToUpper(candidate), limit);
     if (distance > limit) continue;
     nearest = candidate;
@@ -62,13 +76,16 @@ std::string Nearest(std::string_view word, std::span<const std::string> candidat
   return nearest;
 }
 
-std::string NearestVerb(std::string_view word) {
+std::string NearestVerb(std::string_view word, bool yielding) {
   const std::string wanted = runtime::ToUpper(runtime::Trim(word));
   if (wanted.empty()) return "";
-  if (std::string near = Nearest(wanted, VerbWords()); !near.empty()) return near;
+  if (!yielding)
+    for (const auto& [other, verb] : kElsewhere)
+      if (wanted == other) return std::string(verb);
+  if (std::string near = Nearest(wanted, VerbWords(yielding)); !near.empty()) return near;
   constexpr std::size_t kTelling = 4;  // letters that say something
   if (wanted.size() < kTelling) return "";
-  for (const std::string& verb : VerbWords())
+  for (const std::string& verb : VerbWords(yielding))
     if (verb.starts_with(wanted) || verb.ends_with(wanted)) return verb;
   return "";
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "argument_names.h"
 #include "engine/built_in_variables.h"
 #include "runtime/code_page.h"
 #include "say.h"
@@ -90,7 +91,7 @@ Json SarifResult(const std::string& file, const Finding& finding) {
 
 // An argument that the verb can do without stands in brackets, one that it does not read in parentheses.
 std::string Shown(const ArgumentFact& argument) {
-  const std::string name(argument.name);
+  const std::string name = runtime::ToUtf8(ArgumentName(argument.name));
   if (argument.kind == ArgumentKind::Unread) return "(" + name + ")";
   return argument.needed ? name : "[" + name + "]";
 }

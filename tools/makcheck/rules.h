@@ -28,7 +28,7 @@ void CheckDesktop(const Macro& macro, const Desktop& desktop, Findings& findings
 std::string_view BuiltInAt(std::string_view text, std::size_t at);
 // Whether the value of an argument is only known in a run.
 bool IsComputed(const Macro& macro, std::size_t line, const Argument& argument);
-// Whether a verb runs on the skipped side of a condition, too, and whether it decides a condition.
+// Whether a line decides a condition, and whether it ends a loop.
 bool IsCondition(const Line& line);
 bool IsLoopEnd(const Line& line);
 

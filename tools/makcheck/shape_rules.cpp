@@ -19,6 +19,11 @@ using runtime::Trim;
 // What other languages begin a comment with.
 constexpr std::string_view kForeignComments[] = {"//", ";", "'", "#", "--", "/*", "*", "!", "@REM", "::"};
 
+constexpr std::string_view kLoopEnds[] = {"LOOP UNTIL COUNT", "LOOP UNTIL MATRIX.EOF", "LOOP UNTIL MERMATRIX.EOF",
+                                          "LOOP UNTIL CSVFILE.EOF"};
+constexpr std::size_t kSlips = 2;         // letters that are wrong in a word that is still plain
+constexpr std::size_t kLongestVerb = 40;  // letters, with room to spare
+
 bool IsLetterOrDigit(char c) {
   const std::string folded = ToUpper(std::string_view(&c, 1)) + runtime::ToLower(std::string_view(&c, 1));
   return runtime::IsDigit(c) || folded[0] != folded[1] || c == '_' || c == '\xDF';
@@ -81,8 +86,69 @@ class Shapes {
       return;
     }
     if (line.assignment) return CheckAssignedUnknown(line);
-    if (IsParenthesised(line) || IsUndeclared(line)) return;
+    if (IsParenthesised(line) || IsUndeclared(line) || IsElseIf(line) || LacksEquals(line) || EndsNoLoop(line) ||
+        ComparesAVariable(line) || IsLabel(line))
+      return;
     AddUnknownVerb(line);
+  }
+
+  void AddMeant(FindingId id, const Line& line, std::vector<std::string> values, std::string meant) {
+    Add(id, line.Whole(), std::move(values), {Replacing(index_, line.Whole(), std::move(meant))});
+  }
+
+  bool IsElseIf(const Line& line) {
+    for (const char* word : {"ELSEIF", "ELSE IF", "ELSIF"}) {
+      if (!line.word.starts_with(word)) continue;
+      Add(FindingId::ElseIf, line.Whole(), {word});
+      return true;
+    }
+    return false;
+  }
+
+  // "WAIT 500": the longest verb with arguments that the line begins with.
+  bool LacksEquals(const Line& line) {
+    const std::string text = Trim(line.text);
+    for (auto end = text.find_last_of(" :", kLongestVerb); end != std::string::npos && end > 0;
+         end = text.find_last_of(" :", end - 1)) {
+      const basMain::Verb* verb = FindVerb(ToUpper(Trim(text.substr(0, end))));
+      if (verb == nullptr || ArgumentsOf(*verb).empty()) continue;
+      const std::string meant = Trim(text.substr(0, end)) + "=" + Trim(text.substr(end + 1));
+      AddMeant(FindingId::MissingEquals, line, {meant}, meant);
+      return true;
+    }
+    return false;
+  }
+
+  // "LOOP" and "WEND" say too little to tell which end is meant.
+  bool EndsNoLoop(const Line& line) {
+    const bool near = std::any_of(std::begin(kLoopEnds), std::end(kLoopEnds), [&](std::string_view end) {
+      return Distance(line.word, end, kSlips) <= kSlips;
+    });
+    if (near || !(line.word.starts_with("LOOP") || line.word == "WEND" || line.word == "UNTIL")) return false;
+    std::string ends;
+    for (const std::string_view end : kLoopEnds) ends += (ends.empty() ? "" : ", ") + std::string(end);
+    Add(FindingId::UnknownLoopEnd, line.PlaceOfWord(), {line.word, ends});
+    return true;
+  }
+
+  // "IF Jahr=2005" of a variable that is declared.
+  bool ComparesAVariable(const Line& line) {
+    const auto equals = line.text.find('=');
+    if (!line.word.starts_with("IF ") || equals == std::string::npos) return false;
+    const std::string name = Trim(line.text.substr(3, equals - 3));
+    if (macro_.DeclaredBefore(name, index_) == nullptr && BuiltInAt(name, 0) != name) return false;
+    const std::string meant = "IF STRCOMP=" + name + "," + Trim(line.text.substr(equals + 1));
+    AddMeant(FindingId::MisspelledVerb, line, {line.word, meant}, meant);
+    return true;
+  }
+
+  // "Ende:"
+  bool IsLabel(const Line& line) {
+    const std::string text = Trim(line.text);
+    if (text.size() < 2 || text.find('=') != std::string::npos || (text.front() != ':' && text.back() != ':')) return false;
+    const std::string meant = "MARK=" + Trim(text.front() == ':' ? text.substr(1) : text.substr(0, text.size() - 1));
+    AddMeant(FindingId::MisspelledVerb, line, {line.word, meant}, meant);
+    return true;
   }
 
   bool IsForeignComment(const Line& line) {
@@ -127,7 +193,7 @@ class Shapes {
       Add(FindingId::VariableCase, place, {name, other->second}, {Replacing(index_, place, other->second)});
       return true;
     }
-    if (!assigns || name.empty()) return false;
+    if (!assigns || name.empty() || name.starts_with('$')) return false;
     Add(FindingId::UndeclaredVariable, place, {name},
         {Replacing(index_, {place.start, place.start}, "DIM " + name + "\r\n")});
     return true;
@@ -142,6 +208,9 @@ class Shapes {
     if (equals != std::string::npos && KnowsVerb(right.substr(0, equals))) {
       const std::string meant = right.substr(0, equals) + "(" + right.substr(equals + 1) + ")";
       Add(FindingId::AssignmentWithoutParentheses, span, {line.name + "=" + meant}, {Replacing(index_, span, meant)});
+    } else if (const auto blank = right.find(' '); blank != std::string::npos && KnowsVerb(right.substr(0, blank))) {
+      const std::string meant = right.substr(0, blank) + "(" + Trim(right.substr(blank)) + ")";
+      Add(FindingId::AssignmentWithoutParentheses, span, {line.name + "=" + meant}, {Replacing(index_, span, meant)});
     } else if (right.find('(') == std::string::npos) {
       const std::string meant = "VALUE(" + right + ")";
       Add(FindingId::LiteralAssignment, span, {line.name + "=" + meant}, {Replacing(index_, span, meant)});
@@ -152,7 +221,8 @@ class Shapes {
 
   void AddUnknownVerb(const Line& line) {
     const Span span = line.word.empty() ? line.Whole() : line.PlaceOfWord();
-    const std::string near = NearestVerb(line.word);
+    // There is no negation: what is near would say the opposite.
+    const std::string near = line.word.starts_with("IF NOT ") ? "" : NearestVerb(line.word, line.assignment);
     if (near.empty()) Add(FindingId::UnknownVerb, span, {line.word});
     else Add(FindingId::MisspelledVerb, span, {line.word, near}, {Replacing(index_, span, near)});
   }

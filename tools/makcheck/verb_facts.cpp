@@ -50,7 +50,7 @@ const std::map<std::string_view, Facts>& Rows() {
       {"BLOCKINPUT", {Needed(Word)}},
       {"SETTEXT", {{Text}, Needed(Id), Needed(Window), {Exact}, {Class}}},
       {"SETMERLATEXT", {{Text}, Needed(Id), Needed(Window), {Exact}, {Class}, {FrameId}, {FrameClass}}},
-      {"SETCHECK", {Needed(Text), Needed(Id), Needed(Window), {Exact}, Needed(Frame), {Unread}}},
+      {"SETCHECK", {Needed(Word), Needed(Id), Needed(Window), {Exact}, Needed(Frame), {Unread}}},
       {"GETCHECK", kControlInFrame},
       {"SETOPTION", kControlInFrame},
       {"READTEXT", kControlInFrame},
@@ -121,6 +121,7 @@ constexpr Words kWords[] = {
     {"MOUSECLICK", "LEFT,RIGHT", true},       {"MOUSECLICKBYWINDOWOFFSET", "LEFT,RIGHT", false},
     {"BLOCKINPUT", "TRUE,FALSE", false},      {"IF ACTIVEWINDOW", "TRUE,FALSE", false},
     {"PARSE", "ANL,ANLPATH,TEXT", false},     {"FORMATSTRING", "DATE,LONG,TEXT,STRING", false},
+    {"SETCHECK", "1,0", false},
 };
 
 const Words* RowOf(std::string_view verb) {
@@ -183,6 +184,10 @@ std::vector<std::string> WordsOf(std::string_view verbWord) {
 bool FailsOnOtherWords(std::string_view verbWord) {
   const Words* words = RowOf(verbWord);
   return words != nullptr && words->fails;
+}
+
+bool Yields(const basMain::Verb& verb) {
+  return verb.kind == basMain::VerbKind::Value || verb.kind == basMain::VerbKind::ForcedValue;
 }
 
 const basMain::Verb* FindVerb(std::string_view word) {

@@ -67,6 +67,9 @@ inline constexpr const char* kClasses[] = {"Button",
                                            platform::kTextBoxClass,
                                            platform::kUserControlClass};
 
+// Whether a verb has a value to assign.
+bool Yields(const basMain::Verb& verb);
+
 // The verb of a word in upper case; nullptr for none.
 const basMain::Verb* FindVerb(std::string_view word);
 

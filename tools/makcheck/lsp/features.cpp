@@ -18,7 +18,6 @@ namespace makcheck::lsp {
 namespace {
 
 using basMain::LineForm;
-using basMain::VerbKind;
 using tools::Say;
 
 // Numbers of the protocol.
@@ -31,10 +30,6 @@ Json Markdown(const std::string& text) { return {{"kind", "markdown"}, {"value",
 
 Json Edit(std::size_t line, std::size_t start, std::size_t end, const std::string& text) {
   return {{"range", ToJson({{line, start}, {line, end}})}, {"newText", runtime::ToUtf8(text)}};
-}
-
-bool YieldsValue(const basMain::Verb& verb) {
-  return verb.kind == VerbKind::Value || verb.kind == VerbKind::ForcedValue;
 }
 
 std::string Signature(const basMain::Verb& verb, bool assignment) {
@@ -67,7 +62,7 @@ class Items {
 
 void AddVerbs(Items& items, bool assignment) {
   for (const basMain::Verb& verb : basMain::Verbs()) {
-    if (assignment && !YieldsValue(verb)) continue;
+    if (assignment && !Yields(verb)) continue;
     std::string text(verb.word);
     if (!ArgumentsOf(verb).empty()) text += assignment ? "($1)" : "=";
     Json& item = items.Add(std::string(verb.word), kFunction, text, assignment);
